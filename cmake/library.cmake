@@ -1,9 +1,11 @@
 # morvane_library(foundation/base DEPENDS ...): one sub-folder of src/ as one library, named
-# morvane_foundation_base, from every .cpp in it. *_avx2.cpp alone is built for AVX2.
+# morvane_foundation_base, from every .cpp in it and in the folders inside it (app/scalar).
+# *_avx2.cpp alone is built for AVX2.
 function(morvane_library folder)
     cmake_parse_arguments(LIB "" "" "DEPENDS;LINK" ${ARGN})
     string(REPLACE "/" "_" flat ${folder})
-    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
+    file(GLOB sources CONFIGURE_DEPENDS
+        ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/*/*.cpp)
     if(NOT sources)
         add_library(morvane_${flat} INTERFACE)
         set(access INTERFACE)

@@ -6,7 +6,7 @@ usage: line_files_check.py DIRECTORY         lines.txt, .trk, .obj, .swc, .vtk o
 
 The text file is the reference: the TrackVis file is read by nibabel, the VTK file by a strict XML
 parser, which may complain about nothing but the closing tag of its Lines block. Needs nibabel and
-numpy (apt: python3-nibabel). Ends with 0 when everything is equal.
+numpy (apt: python3-nibabel); exit code 77 without them. Ends with 0 when everything is equal.
 """
 import os
 import struct
@@ -15,8 +15,11 @@ import sys
 import warnings
 import xml.etree.ElementTree as xml
 
-import nibabel
-import numpy
+try:
+    import nibabel
+    import numpy
+except ImportError:
+    sys.exit(77)
 
 LINES = """1.5\t2\t3\t4
 -1\t0\t0.1
