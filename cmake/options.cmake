@@ -20,9 +20,12 @@ else()
     endif()
 endif()
 if(MORVANE_SANITIZE)
-    # GCC's flow warnings misfire in instrumented code.
     target_compile_options(morvane_options INTERFACE -fsanitize=${MORVANE_SANITIZE}
-        -fno-omit-frame-pointer -fno-sanitize-recover=all -Wno-maybe-uninitialized)
+        -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    if(NOT CMAKE_CXX_COMPILER_ID MATCHES Clang)
+        # GCC's flow warnings misfire in instrumented code.
+        target_compile_options(morvane_options INTERFACE -Wno-maybe-uninitialized)
+    endif()
     target_link_options(morvane_options INTERFACE -fsanitize=${MORVANE_SANITIZE})
 endif()
 target_include_directories(morvane_options INTERFACE ${PROJECT_SOURCE_DIR}/src)

@@ -5,8 +5,30 @@
 #include "foundation/base/record_operators.hpp"
 #include "script/engine/macro.hpp"
 
-// The frame commands, the same for every list of 3-D fields.
+// Making and framing a field: commands that are the same for every list of 3-D fields.
 namespace morvane {
+// An empty field of the kind in force.
+template <auto *LIST> void CLEAR_FIELD(TMACRO *) {
+    LIST->CURRENT().DONE();
+    LIST->CURRENT().INIT(LIST->DEFAULTKIND);
+}
+
+// new [x y z | <x, y, z>]: a zero field of the kind in force; without parameters of the size in
+// use. A size below 1 makes an empty field. The frame is lost in every case.
+template <auto *LIST> void NEW_FIELD(TMACRO *engine) {
+    auto &field = LIST->CURRENT();
+    const NAT count = engine->PARAMETERLENGTH();
+    if (count != 0 && count != 1 && count != 3) return engine->PARAMETERERROR(3);
+    VECTORNAT size = field.SIZE();
+    if (count == 1) size = GETVECTORNAT(engine->GETPARAMETER(1));
+    if (count == 3)
+        size = {GETNAT(engine->GETPARAMETER(1)), GETNAT(engine->GETPARAMETER(2)),
+                GETNAT(engine->GETPARAMETER(3))};
+    field.DONE();
+    if (size.x < 1 || size.y < 1 || size.z < 1) return field.INIT(LIST->DEFAULTKIND);
+    field.INIT(LIST->DEFAULTKIND, size.x, size.y, size.z);
+}
+
 // Changes the frame of the current field by `edit`.
 template <auto *LIST, class EDIT> void EDIT_FRAME(EDIT &&edit) {
     FRAME frame = LIST->CURRENT().GETFRAME();

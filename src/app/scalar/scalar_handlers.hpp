@@ -8,8 +8,6 @@ class TMACRO;
 // state.cpp
 void SCALAR_IFSCALAR_LAMD(TMACRO *engine);
 void SCALAR_IFPLAIN_LAMD(TMACRO *engine);
-void SCALAR_CLEAR(TMACRO *engine);
-void SCALAR_NEW(TMACRO *engine);
 void SCALAR_MAKE_REF(TMACRO *engine);
 void SCALAR_MAKE_VECTOR(TMACRO *engine);
 void SCALAR_MAKE_VECTOR_REF(TMACRO *engine);

@@ -14,27 +14,6 @@ void SCALAR_IFPLAIN_LAMD(TMACRO *engine) {
     engine->COMMAND_RESULT = GETSTRING(SCALARS.CURRENT().IFPLAIN());
 }
 
-void SCALAR_CLEAR(TMACRO *) {
-    SCALARS.CURRENT().DONE();
-    SCALARS.CURRENT().INIT(SCALARS.DEFAULTKIND);
-}
-
-// new [x y z | <x, y, z>]: a zero field of the bit level in force; without parameters of the size
-// in use. A size below 1 makes an empty field. The frame is lost in every case.
-void SCALAR_NEW(TMACRO *engine) {
-    T3D_SCALAR_ANALYSIS &field = SCALARS.CURRENT();
-    const NAT count = engine->PARAMETERLENGTH();
-    if (count != 0 && count != 1 && count != 3) return engine->PARAMETERERROR(3);
-    VECTORNAT size = field.SIZE();
-    if (count == 1) size = GETVECTORNAT(engine->GETPARAMETER(1));
-    if (count == 3)
-        size = {GETNAT(engine->GETPARAMETER(1)), GETNAT(engine->GETPARAMETER(2)),
-                GETNAT(engine->GETPARAMETER(3))};
-    field.DONE();
-    if (size.x < 1 || size.y < 1 || size.z < 1) return field.INIT(SCALARS.DEFAULTKIND);
-    field.INIT(SCALARS.DEFAULTKIND, size.x, size.y, size.z);
-}
-
 // new := scalar.make: a zero field with the size and frame of the one in use.
 void SCALAR_MAKE_REF(TMACRO *engine) {
     T3D_SCALAR_ANALYSIS *target = SCALARS.ASSIGN_TO(engine, engine->COMMAND_RESULT_VAR);

@@ -23,27 +23,6 @@ void VECTOR_IFPLAIN_LAMD(TMACRO *engine) {
         GETSTRING(field.ISNOTEMPTY() && field.COUNT(field.GET(1, 1, 1)) == Voxels(field));
 }
 
-void VECTOR_CLEAR(TMACRO *) {
-    VECTORS.CURRENT().DONE();
-    VECTORS.CURRENT().INIT(VECTORS.DEFAULTKIND);
-}
-
-// new [x y z | <x, y, z>]: a zero field of the kind in force; without parameters of the size in
-// use.
-void VECTOR_NEW(TMACRO *engine) {
-    T3D_VECTOR_ANALYSIS &field = VECTORS.CURRENT();
-    const NAT count = engine->PARAMETERLENGTH();
-    if (count != 0 && count != 1 && count != 3) return engine->PARAMETERERROR(3);
-    VECTORNAT size = field.SIZE();
-    if (count == 1) size = GETVECTORNAT(engine->GETPARAMETER(1));
-    if (count == 3)
-        size = {GETNAT(engine->GETPARAMETER(1)), GETNAT(engine->GETPARAMETER(2)),
-                GETNAT(engine->GETPARAMETER(3))};
-    field.DONE();
-    if (size.x < 1 || size.y < 1 || size.z < 1) return field.INIT(VECTORS.DEFAULTKIND);
-    field.INIT(VECTORS.DEFAULTKIND, size.x, size.y, size.z);
-}
-
 void VECTOR_MIN_LAMD(TMACRO *engine) {
     engine->COMMAND_RESULT = GETSTRING(VECTORS.CURRENT().MIN());
 }

@@ -14,8 +14,6 @@ extern BYTE VECTOR_COPY_METHOD;
 // state.cpp
 void VECTOR_IFVECTOR_LAMD(TMACRO *engine);
 void VECTOR_IFPLAIN_LAMD(TMACRO *engine);
-void VECTOR_CLEAR(TMACRO *engine);
-void VECTOR_NEW(TMACRO *engine);
 void VECTOR_MIN_LAMD(TMACRO *engine);
 void VECTOR_MAX_LAMD(TMACRO *engine);
 void VECTOR_COUNT_REF(TMACRO *engine);

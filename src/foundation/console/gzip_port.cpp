@@ -52,7 +52,8 @@ NAT GZ_READ::READ(void *target, NAT count) {
         const int got = ::gzread(Gz(handle), static_cast<char *>(target) + done, part);
         int code = Z_OK;
         ::gzerror(Gz(handle), &code);
-        broken = got < 0 || (code != Z_OK && code != Z_STREAM_END);
+        // A cut stream still hands out what it holds; it is broken when nothing more comes.
+        broken = got < 0 || (got == 0 && code != Z_OK && code != Z_STREAM_END);
         if (got <= 0) break;
         done += got;
     }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "script/engine/command_row.hpp"
+
+#include <span>
+
+namespace morvane {
+// The one straight run of the program: options, commands, one script, shutdown. The exit status:
+// 1 when help was asked, else 0, also when the script failed.
+int RUN_PROGRAM(int argc, const char *const *argv);
+
+// Every set of commands, in registration order.
+std::span<const COMMAND_SET *const> COMMAND_SETS();
+} // namespace morvane

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "script/engine/command_row.hpp"
+
+// The commands of the workspaces as a whole, and those of images, tensor fields and meshes.
+namespace morvane {
+extern const COMMAND_SET PROGRAM_SET; // without namespace: all six lists
+extern const COMMAND_SET IMAGE_SET;
+extern const COMMAND_SET TENSOR_SET;
+extern const COMMAND_SET MESH_SET;
+} // namespace morvane

@@ -1,0 +1,61 @@
+#include "script/engine/script_line.hpp"
+
+#include "script/engine/keywords_table.hpp"
+
+namespace morvane {
+UTF16 CUT_COMMENT(const UTF16 &line) {
+    UTF16 text = KILLLAST(KILLFIRST(line, ' ', '\t'), ' ', '\t');
+    if (POS("//", text) == 1) return {};
+    // Deliberate: a comment mark inside a quoted text ends the line too.
+    if (const NAT comment = POS(" //", text); comment > 0) text = COPY(text, 1, comment - 1);
+    const UTF16CHAR first = text.GETCHAR(1);
+    if (first.high == 0 && (first.low == '#' || first.low == '%')) return {};
+    return text;
+}
+
+LINE_PART PREPARE_PART(const UTF16 &text) {
+    LINE_PART part;
+    const NAT blank = POS(" ", text);
+    part.rawWord = blank > 0 ? COPY(text, 1, blank - 1) : text;
+    part.word = LOWERCASE(part.rawWord);
+    if (blank > 0) part.rest = KILLFIRST(COPY(text, blank + 1, text.LENGTH()), ' ');
+    part.keyword = FIND_KEYWORD(part.word);
+    part.atWord = POS("@", part.word) > 0;
+    part.atRest = POS("@", part.rest) > 0;
+    part.blankInRest = POS(" ", part.rest) > 0;
+    // Deliberate: the test for an assignment knows nothing of quotes.
+    part.assignment = part.rest.LENGTH() > 2 && POS("= ", part.rest, 2) > 0;
+    return part;
+}
+
+const LINE_PART &LINE_PART::NEXT() const {
+    if (!cache.next) cache.next = std::make_unique<LINE_PART>(PREPARE_PART(rest));
+    return *cache.next;
+}
+
+void SCRIPT_LINES::Prepare(const TFILECOMMAND &script, NAT line) {
+    const std::size_t offset = static_cast<std::size_t>(line - 1);
+    if (offset >= lines.size()) lines.resize(static_cast<std::size_t>(script.LENGTH()));
+    SLOT &slot = lines[offset];
+    slot.ready = true;
+    const UTF16 text = script.GET(line);
+    if (line == 1 && POS("!", text) == 1) return;
+    const UTF16 kept = CUT_COMMENT(text);
+    if (!kept.EMPTY()) slot.part = std::make_unique<LINE_PART>(PREPARE_PART(kept));
+}
+
+void SCRIPT_LINES::CLEAR() {
+    lines.clear();
+    replaced.clear();
+}
+
+void SCRIPT_LINES::INSERTED(NAT line, NAT count) {
+    const std::size_t offset = static_cast<std::size_t>(line - 1);
+    if (offset >= lines.size() || count < 1) return;
+    replaced.push_back(std::move(lines[offset].part));
+    std::vector<SLOT> fresh(static_cast<std::size_t>(count));
+    lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(offset + 1),
+                 std::make_move_iterator(fresh.begin() + 1), std::make_move_iterator(fresh.end()));
+    lines[offset] = SLOT{};
+}
+} // namespace morvane
