@@ -67,6 +67,7 @@ bool EXTREME_SEARCH::Read() {
     high = GETREAL(engine.GETPARAMETER(3));
     if (high < low) std::swap(low, high);
     names = engine._WRITTENNAMES(*frame.part);
+    if (names.size() < 4) return engine.MIN_PARAMETERERROR(4), false; // a lambda changed the line
     names.erase(names.begin(), names.begin() + 3);
     position.assign(names.size(), down ? low : high);
     return high - low > 0;

@@ -18,6 +18,9 @@ struct CALLABLE {
 // The low four bits of a kind byte; WITH_ENGINE is the bit for handlers that get the engine.
 inline constexpr BYTE KIND_BLOCK = 1, KIND_PROCEDURE = 2, KIND_FUNCTION = 3, KIND_LAMBDA = 4;
 inline constexpr BYTE KIND_MASK = 15, KIND_WITH_ENGINE = 16;
+// The groups that a look-up accepts, bit n for group n.
+inline constexpr unsigned PROCEDURES = 1U << KIND_BLOCK | 1U << KIND_PROCEDURE;
+inline constexpr unsigned FUNCTIONS = 1U << KIND_FUNCTION, LAMBDAS = 1U << KIND_LAMBDA;
 
 // One registered name. Built-in when a handler is set; script-defined when none is set and the
 // start line is not 0.

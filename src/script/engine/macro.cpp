@@ -96,7 +96,7 @@ void TMACRO::Run() {
     WRITELN("Script runs...");
     running = true;
     includes = 0;
-    linesLeft = switches.LINES;
+    linesLeft = switches.LINES > 0 ? switches.LINES + 1 : 0;
     PUTCONSTANT("true", "1");
     for (const char *name :
          {"false", "condition", "for.length", "for.rest", "for.count", "for.relative"})

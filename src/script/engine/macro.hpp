@@ -203,6 +203,7 @@ private:
     bool SpendLine();
     NAT ProcessBlock(NAT line);
     NAT SkipBlock(NAT line);
+    bool IsStored() const;
     bool NextLine(BLOCK_FRAME &frame);
     bool Inline(BLOCK_FRAME &frame);
     bool TakeCondition(BLOCK_FRAME &frame, bool holds, const LINE_PART &line);

@@ -9,7 +9,7 @@
 namespace morvane {
 namespace {
 constexpr NAT DEEPEST_SCOPE = 10'000; // blocks that the script's end left open count too
-constexpr NAT DEEPEST_CALL = 1'000;    // runs of a block in each other, in all engines together
+constexpr NAT DEEPEST_CALL = 1'000;   // runs of a block in each other, in all engines together
 NAT activeBlocks = 0;
 
 // One run of a block on the processor's stack.
@@ -123,6 +123,13 @@ NAT TMACRO::ProcessBlock(NAT line) {
     return frame.line;
 }
 
+// Whether the block in progress stands directly in a `store` or `append` with an open file.
+bool TMACRO::IsStored() const {
+    const std::size_t opener = static_cast<std::size_t>(scopeLevel - 1);
+    if (!IFOUTPUT() || opener >= scopeKinds.size()) return false;
+    return scopeKinds[opener] == "store" || scopeKinds[opener] == "append";
+}
+
 // Only the nesting is followed. Inside a store block a line is text, unless it opens a block; of a
 // nested block its end line alone is text.
 NAT TMACRO::SkipBlock(NAT line) {
@@ -130,8 +137,7 @@ NAT TMACRO::SkipBlock(NAT line) {
     frame.line = line;
     NAT nested = 0;
     std::optional<STORE_BLOCK> store;
-    const UTF16 kind = GETSCOPEKIND(scopeLevel - 1);
-    if (IFOUTPUT() && (kind == "store" || kind == "append")) store.emplace(*this);
+    if (IsStored()) store.emplace(*this);
     while (frame.line < script.LENGTH() && !stop) {
         if (!NextLine(frame)) continue;
         const LINE_PART &part = *frame.part;
