@@ -1,5 +1,5 @@
 #include "foundation/container/matrix.hpp"
-#include "support/console_text.hpp"
+#include "support/capture.hpp"
 
 #include <utility>
 
@@ -35,9 +35,9 @@ TEST_CASE("INIT of a matrix sets its code, SORTED, DEFAULT and WRITE") {
 }
 
 TEST_CASE("a matrix without memory has the size 0 by 0") {
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TMATRIXREAL matrix(NATMAX / 2, 3);
-    CHECK(console.text == "  Wrong static allocation (Out of memory?)! Create empty field.\n");
+    CHECK(console.TEXT() == "  Wrong static allocation (Out of memory?)! Create empty field.\n");
     CHECK(matrix.WIDTH == 0);
     CHECK(matrix.HEIGHT == 0);
     matrix.INIT(-1, 4);

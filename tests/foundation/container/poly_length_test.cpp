@@ -1,6 +1,6 @@
 #include "foundation/console/log.hpp"
 #include "foundation/container/poly_types.hpp"
-#include "support/console_text.hpp"
+#include "support/capture.hpp"
 #include "support/scratch_folder.hpp"
 
 #include <doctest/doctest.h>
@@ -96,17 +96,17 @@ TEST_CASE("a list never reserves less than it did before") {
 }
 
 TEST_CASE("without memory a growing list becomes empty and says so") {
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TPOLYREAL list;
     FILL_WITH(list, {1, 2});
     list.NEWLENGTH(NATMAX / 4); // the byte count is out of range, with and without a reserve
-    CHECK(console.text == "  Not enough Memory! Create empty field.\n");
+    CHECK(console.TEXT() == "  Not enough Memory! Create empty field.\n");
     CHECK(list.LENGTH == 0);
     CHECK(list.MAXIMAL == 0);
 }
 
 TEST_CASE("a list that finds memory only without a reserve becomes static") {
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TPOLYBYTE list;
     list.INIT();
     list.PUSH(7);
@@ -115,25 +115,25 @@ TEST_CASE("a list that finds memory only without a reserve becomes static") {
     list.DYNAMIC = NATMAX - 10; // stands for a reserve that no machine has
     list.MAXIMAL = maximal;
     list.NEWLENGTH(maximal);
-    CHECK(console.text == "  Not enough Memory! Disable dynamic memory.\n");
+    CHECK(console.TEXT() == "  Not enough Memory! Disable dynamic memory.\n");
     CHECK(list.DYNAMIC == 0);
     CHECK(list.MAXIMAL == maximal);
     CHECK(list.GET(1) == 7);
 }
 
 TEST_CASE("without memory a static list becomes empty and says so") {
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TPOLYREAL list(2);
     list.NEWLENGTH(NATMAX / 4);
-    CHECK(console.text == "  Not enough Memory! Create empty field.\n");
+    CHECK(console.TEXT() == "  Not enough Memory! Create empty field.\n");
     CHECK(list.LENGTH == 0);
 }
 
 TEST_CASE("NEWLENGTH of an object without an element size is told") {
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TPOLY list;
     list.NEWLENGTH(4);
-    CHECK(console.text == "  Corrupt memory packet (size=0)!\n");
+    CHECK(console.TEXT() == "  Corrupt memory packet (size=0)!\n");
     CHECK(list.FRESH());
 }
 
@@ -148,13 +148,13 @@ TEST_CASE("a static list freed by a length of 0 is filled again by NEWLENGTH") {
 
 TEST_CASE("with a log file open each allocation and release writes a line into it") {
     const SCRATCH_FOLDER work;
-    CONSOLE_TEXT console;
+    CAPTURE console;
     OPENLOGFILE();
-    console.text.clear();
+    console.CLEAR();
     { TPOLYREAL list(3); }
     CLOSELOGFILE();
     const std::string log = work.READ("test_foundation_container.log");
     CHECK(log.find("  Allocate memory 24 bytes (3 x 8).\n") != std::string::npos);
     CHECK(log.find("  Free memory 24 bytes (3 x 8).\n") != std::string::npos);
-    CHECK(console.text.empty()); // the log alone
+    CHECK(console.TEXT().empty()); // the log alone
 }

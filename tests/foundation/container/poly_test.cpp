@@ -1,6 +1,6 @@
 #include "foundation/container/memory_block.hpp"
 #include "foundation/container/poly_types.hpp"
-#include "support/console_text.hpp"
+#include "support/capture.hpp"
 
 #include <utility>
 
@@ -128,10 +128,10 @@ TEST_CASE("a dynamic INIT on a dynamic list of the same size empties it and keep
 }
 
 TEST_CASE("without memory a static INIT is told and leaves an empty field with its size") {
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TPOLY list;
     list.INIT(NATMAX, 16);
-    CHECK(console.text == "  Wrong static allocation (Out of memory?)! Create empty field.\n");
+    CHECK(console.TEXT() == "  Wrong static allocation (Out of memory?)! Create empty field.\n");
     CHECK(list.LENGTH == 0);
     CHECK(list.MAXIMAL == 0);
     CHECK(list.SIZE == 16);
@@ -139,10 +139,10 @@ TEST_CASE("without memory a static INIT is told and leaves an empty field with i
 }
 
 TEST_CASE("without memory a dynamic INIT is told and leaves the size 0") {
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TPOLY list;
     list.INIT(NATMAX / 2); // the reserve is that many elements: the product is out of range
-    CHECK(console.text == "  Wrong dynamic allocation (Out of memory?)! Create empty field.\n");
+    CHECK(console.TEXT() == "  Wrong dynamic allocation (Out of memory?)! Create empty field.\n");
     CHECK(list.SIZE == 0);
 }
 
@@ -320,19 +320,19 @@ TEST_CASE("DONE leaves a zero object that may be used again, and may be called t
 }
 
 TEST_CASE("a destroyed CHECK field is told at DONE and the block is left alone") {
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TPOLYREAL list(2);
     void *block = list.DATA;
     list.CHECK2 = 1;
     list.DONE();
-    CHECK(console.text.starts_with("  Corrupt memory (Done size="));
-    CHECK(console.text.ends_with(" and should=16)!\n"));
+    CHECK(console.TEXT().starts_with("  Corrupt memory (Done size="));
+    CHECK(console.TEXT().ends_with(" and should=16)!\n"));
     CHECK(list.FRESH());
     FREE_BLOCK(block);
 }
 
 TEST_CASE("a destroyed CHECK field is told by NEWLENGTH with its place") {
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TPOLYREAL zero(2), fixed(2), dynamic;
     dynamic.INIT();
     void *blocks[] = {zero.DATA, fixed.DATA, dynamic.DATA};
@@ -340,9 +340,9 @@ TEST_CASE("a destroyed CHECK field is told by NEWLENGTH with its place") {
     zero.NEWLENGTH(0);
     fixed.NEWLENGTH(3);
     dynamic.NEWLENGTH(9000);
-    CHECK(console.Holds("  Corrupt memory (Newlength-0 size="));
-    CHECK(console.Holds("  Corrupt memory (Newlength-static size="));
-    CHECK(console.Holds("  Corrupt memory (Newlength-dynamic size="));
+    CHECK(console.CONTAINS("  Corrupt memory (Newlength-0 size="));
+    CHECK(console.CONTAINS("  Corrupt memory (Newlength-static size="));
+    CHECK(console.CONTAINS("  Corrupt memory (Newlength-dynamic size="));
     fixed.CHECK3 = dynamic.CHECK2 = 0;
     for (void *block : blocks)
         FREE_BLOCK(block);

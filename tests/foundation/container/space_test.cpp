@@ -1,5 +1,5 @@
 #include "foundation/container/space.hpp"
-#include "support/console_text.hpp"
+#include "support/capture.hpp"
 
 #include <utility>
 
@@ -32,9 +32,9 @@ TEST_CASE("every space has its code") {
 }
 
 TEST_CASE("a space without memory has no dimensions") {
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TSPACEBYTE space(NATMAX, NATMAX, 2);
-    CHECK(console.text == "  Wrong static allocation (Out of memory?)! Create empty field.\n");
+    CHECK(console.TEXT() == "  Wrong static allocation (Out of memory?)! Create empty field.\n");
     CHECK(space.NX == 0);
     CHECK(space.NZ == 0);
     space.INIT(2, -2, 2);

@@ -2,7 +2,7 @@
 #include "geometry/format/line_formats.hpp"
 #include "geometry/format/line_formats_table.hpp"
 #include "geometry/model/cloud.hpp"
-#include "support/console_text.hpp"
+#include "support/capture.hpp"
 
 #include <cstring>
 #include <filesystem>
@@ -62,7 +62,7 @@ template <class VALUE> VALUE AT(const std::string &bytes, std::size_t offset) {
 
 TEST_CASE("an OBJ file holds points, lines, a closed line as a face, a single point") {
     const TARGET target("lines.obj");
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TCLOUD cloud;
     FILL_CLOUD(cloud);
     REQUIRE(SAVE_OBJ(cloud, target));
@@ -72,7 +72,7 @@ TEST_CASE("an OBJ file holds points, lines, a closed line as a face, a single po
 
 TEST_CASE("the Lines block of a VTK line file is closed as Polys") {
     const TARGET target("lines.vtk");
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TCLOUD cloud;
     FILL_CLOUD(cloud);
     REQUIRE(SAVE_VTK(cloud, target));
@@ -99,13 +99,13 @@ TEST_CASE("the Lines block of a VTK line file is closed as Polys") {
           "\t\t</Piece>\n"
           "\t</PolyData>\n"
           "</VTKFile>\n");
-    CHECK(console.Holds("  Write VTK-file. 100 % ready"));
-    CHECK(console.Holds("  Write VTK(mesh)-file. 100 % ready"));
+    CHECK(console.CONTAINS("  Write VTK-file. 100 % ready"));
+    CHECK(console.CONTAINS("  Write VTK(mesh)-file. 100 % ready"));
 }
 
 TEST_CASE("a TrackVis header is exactly 1000 bytes and hdr_size holds 1000") {
     const TARGET target("lines.trk");
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TCLOUD cloud;
     FILL_CLOUD(cloud);
     REQUIRE(SAVE_TRACKVIS(cloud, target));
@@ -129,24 +129,24 @@ TEST_CASE("a TrackVis header is exactly 1000 bytes and hdr_size holds 1000") {
     CHECK(AT<float>(bytes, 1004) == 1.0f);
     CHECK(AT<float>(bytes, 1016) == 1.5f);
     CHECK(AT<std::int32_t>(bytes, 1028) == 4);
-    CHECK(console.Holds("  Write Track-file. 100 % ready"));
+    CHECK(console.CONTAINS("  Write Track-file. 100 % ready"));
 }
 
 TEST_CASE("an SWC file has one root for each line and t as radius") {
     const TARGET target("lines.swc");
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TCLOUD cloud;
     FILL_CLOUD(cloud);
     REQUIRE(SAVE_SWC(cloud, target));
     CHECK(target.Content() == "1 7 1 2 3 0.5 -1\n2 7 1.5 -2 0 0 1\n"
                               "3 0 0 0 0 0 -1\n4 0 1 0 0 0 3\n5 0 0 1 0 0 4\n6 0 0 0 0 0 5\n"
                               "7 1 9 8 7 6 -1\n");
-    CHECK(console.Holds("  Write SWC-file. 100 % ready"));
+    CHECK(console.CONTAINS("  Write SWC-file. 100 % ready"));
 }
 
 TEST_CASE("a MicroVisu3D file tells its counts and numbers its points") {
     const TARGET target("lines.mv3d");
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TCLOUD cloud;
     cloud.NEWPOINT({1, 2, 3, 4});
     cloud.NEWPOINT({5, 6, 7.5, 0});
@@ -155,12 +155,12 @@ TEST_CASE("a MicroVisu3D file tells its counts and numbers its points") {
     CHECK(target.Content() == "# MicroVisu3D file\n# Number of lines   1\n"
                               "# Number of points  2\n# Number of inter.  n.a.\n#\n"
                               "# No\t\tx\t\ty\t\tz\t\td\n#\n1\t1\t2\t3\t4\n2\t5\t6\t7.5\t0\n");
-    CHECK(console.Holds("  Write MicroVisu3D-file. 100 % ready"));
+    CHECK(console.CONTAINS("  Write MicroVisu3D-file. 100 % ready"));
 }
 
 TEST_CASE("a DXF file holds one polyline for each line") {
     const TARGET target("lines.dxf");
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TCLOUD cloud;
     cloud.NEWPOINT({1, 2, 3, 4});
     cloud.NEWLINE(0);
@@ -175,7 +175,7 @@ TEST_CASE("a DXF file holds one polyline for each line") {
 
 TEST_CASE("a MEL file names its curves by object and line with equal widths") {
     const TARGET target("lines.mel");
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TCLOUD cloud;
     FILL_CLOUD(cloud);
     for (int i = 0; i < 9; ++i) {
@@ -194,7 +194,7 @@ TEST_CASE("a MEL file names its curves by object and line with equal widths") {
 
 TEST_CASE("numbers in exchange formats have a point and no grouping whatever FORMAT says") {
     const TARGET target("lines.swc");
-    CONSOLE_TEXT console;
+    CAPTURE console;
     const TFORMAT kept = FORMAT;
     FORMAT.DECIMAL = false;
     FORMAT.DIGIT = true;
@@ -218,7 +218,7 @@ TEST_CASE("the extension chooses the writer in any case, and text serves all oth
 TEST_CASE("every row of the format table writes a file and fails in a missing directory") {
     for (const LINE_FORMAT &format : LINE_FORMATS()) {
         CAPTURE(format.extension);
-        CONSOLE_TEXT console;
+        CAPTURE console;
         TCLOUD cloud;
         FILL_CLOUD(cloud);
         const auto directory = std::filesystem::temp_directory_path() /

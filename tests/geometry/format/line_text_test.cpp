@@ -3,7 +3,7 @@
 #include "geometry/format/line_text.hpp"
 #include "geometry/model/cloud.hpp"
 #include "script/file/file_text.hpp"
-#include "support/console_text.hpp"
+#include "support/capture.hpp"
 #include "support/scratch_folder.hpp"
 
 #include <filesystem>
@@ -145,9 +145,9 @@ TEST_CASE("a failed save leaves the old file and nothing else") {
     const SCRATCH_FOLDER work;
     TCLOUD cloud;
     cloud.NEWPOINT({1, 0, 0, 0});
-    CONSOLE_TEXT console;
+    CAPTURE console;
     CHECK_FALSE(cloud.SAVE("missing/lines.txt"));
-    CHECK(console.Holds("not found"));
+    CHECK(console.CONTAINS("not found"));
     CHECK(std::filesystem::is_empty("."));
 }
 
@@ -249,10 +249,10 @@ TEST_CASE("a load goes behind the lines that are there") {
 
 TEST_CASE("a file that does not exist is told and loads nothing") {
     const SCRATCH_FOLDER work;
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TCLOUD cloud;
     CHECK_FALSE(cloud.LOAD("none.txt"));
-    CHECK(console.Holds("  File (none.txt) not found."));
+    CHECK(console.CONTAINS("  File (none.txt) not found."));
     CHECK(cloud.GETPOINTLENGTH() == 0);
 }
 
@@ -263,7 +263,7 @@ TEST_CASE("a name with wildcards loads all matching files in their order") {
     WRITE_TEXT("in/b.txt", "2\n");
     WRITE_TEXT("in/a.txt", "1\nobject:first\n");
     WRITE_TEXT("in/c.dat", "3\n");
-    CONSOLE_TEXT console;
+    CAPTURE console;
     TCLOUD cloud;
     REQUIRE(cloud.LOAD("in/*.txt"));
     CHECK(DESCRIPTION(cloud) == "first:[0 <1, 0, 0, 0>]child-b.txt:[0 <2, 0, 0, 0>]");
@@ -273,7 +273,7 @@ TEST_CASE("a name with wildcards loads all matching files in their order") {
 TEST_CASE("a load of 0 percent loads nothing, of 100 percent everything") {
     const SCRATCH_FOLDER work;
     WRITE_TEXT("lines.txt", "1\n\n2\nmaterial:4\n3\nobject:a\n");
-    CONSOLE_TEXT console;
+    CAPTURE console;
     RANDOM_STREAM random(1, 1);
     TCLOUD none, all;
     CHECK(none.LOAD("lines.txt", 0, random));

@@ -2,7 +2,7 @@
 
 #include "foundation/base/record_operators.hpp"
 #include "orientation/scan/scan_fields.hpp"
-#include "support/console_text.hpp"
+#include "support/capture.hpp"
 #include "support/temporary_folder.hpp"
 
 #include <doctest/doctest.h>
@@ -11,15 +11,15 @@ using namespace morvane;
 
 TEST_CASE("a diagnostic works at the middle of the volume unless a point above 0 is given") {
     T3D_SCALAR_ANALYSIS scalar(TAG_GRAY, 9, 8, 7);
-    CONSOLE_TEXT console;
+    CAPTURE console;
     CHECK(SCAN_POINT(scalar, "Diffusion dump at: ", nullptr, nullptr) == VECTORNAT{4, 4, 3});
-    CHECK(console.text == "Diffusion dump at: <4, 4, 3>\n");
+    CHECK(console.TEXT() == "Diffusion dump at: <4, 4, 3>\n");
     const VECTORNAT point{2, 3, 5}, outside{2, 0, 5}, offset{1, -1, 0};
     CHECK(SCAN_POINT(scalar, "", &point, nullptr) == point);
     CHECK(SCAN_POINT(scalar, "", &outside, nullptr) == VECTORNAT{4, 4, 3});
-    console.text.clear();
+    console.CLEAR();
     CHECK(SCAN_POINT(scalar, "Diffusion dump at: ", &point, &offset) == VECTORNAT{3, 2, 5});
-    CHECK(console.text == "Diffusion dump at: <2, 3, 5> + <1, -1, 0>\n");
+    CHECK(console.TEXT() == "Diffusion dump at: <2, 3, 5> + <1, -1, 0>\n");
 }
 
 TEST_CASE("the count of lowest deviations is that of all polar points in a flat volume") {
@@ -71,7 +71,7 @@ TEST_CASE("the dump has a line for each polar point and an empty one behind each
     T3D_SCALAR_ANALYSIS scalar;
     FILL_FIELD(scalar, TAG_GRAY, {5, 5, 5}, [](NAT, NAT, NAT) { return 7; });
     TEMPORARY_FOLDER folder;
-    CONSOLE_TEXT console;
+    CAPTURE console;
     REQUIRE(DIFFUSION_DUMP(scalar, 3, 3, 3, 1, UTF16(folder.PATH("dump.txt"))));
     std::istringstream text(folder.GET("dump.txt"));
     std::vector<std::string> lines;
@@ -96,7 +96,7 @@ TEST_CASE("short and empty lines of the dump are marked") {
     FILL_FIELD(scalar, TAG_GRAY, {11, 11, 11},
                [](NAT x, NAT y, NAT z) { return x == 6 && y == 6 && z == 6 ? 7 : 0; });
     TEMPORARY_FOLDER folder;
-    CONSOLE_TEXT console;
+    CAPTURE console;
     REQUIRE(DIFFUSION_DUMP(scalar, 6, 6, 6, 3, UTF16(folder.PATH("short.txt"))));
     const std::string text = folder.GET("short.txt");
     CHECK(text.find("<r u:1 v:0 x:") != std::string::npos);
@@ -109,7 +109,7 @@ TEST_CASE("short and empty lines of the dump are marked") {
 TEST_CASE("a dump that cannot be written is told and gives false") {
     T3D_SCALAR_ANALYSIS scalar(TAG_GRAY, 5, 5, 5);
     TEMPORARY_FOLDER folder;
-    CONSOLE_TEXT console;
+    CAPTURE console;
     CHECK_FALSE(DIFFUSION_DUMP(scalar, 3, 3, 3, 1, UTF16(folder.PATH("missing/dump.txt"))));
-    CHECK_FALSE(console.text.empty());
+    CHECK_FALSE(console.TEXT().empty());
 }

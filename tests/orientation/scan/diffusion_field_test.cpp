@@ -2,7 +2,7 @@
 
 #include "foundation/base/matrix3.hpp"
 #include "orientation/scan/scan_fields.hpp"
-#include "support/console_text.hpp"
+#include "support/capture.hpp"
 
 #include <doctest/doctest.h>
 
@@ -13,9 +13,9 @@ std::string MethodLine(BYTE method, NAT r = 3) {
     T3D_SCALAR_ANALYSIS scalar(TAG_GRAY, 7, 7, 7);
     T3D_VECTOR_ANALYSIS field(VECTOR_FLOAT, 7, 7, 7);
     scalar.diffusionMethod = method;
-    CONSOLE_TEXT console;
+    CAPTURE console;
     REQUIRE(DIFFUSION_FIELD(scalar, field, r, 1, false, 1));
-    return console.text.substr(0, console.text.find('\n'));
+    return console.TEXT().substr(0, console.TEXT().find('\n'));
 }
 } // namespace
 
@@ -36,16 +36,16 @@ TEST_CASE("a scan sizes the vector field and tells its threads") {
     T3D_SCALAR_ANALYSIS scalar;
     FILL_FIELD(scalar, TAG_GRAY, {9, 8, 7}, NOISE(1, 1, 255));
     T3D_VECTOR_ANALYSIS field(VECTOR_FLOAT);
-    CONSOLE_TEXT console;
+    CAPTURE console;
     CHECK(DIFFUSION_FIELD(scalar, field, 2, 1, false, 3));
     CHECK(field.SIZE() == VECTORNAT{9, 8, 7});
-    CHECK(console.text.rfind("  Assigned vector field (9x8x7) updated.\nMethod: ", 0) == 0);
-    CHECK(console.Holds("\nWorking threads: 7\nParallel: 3\n"));
+    CHECK(console.TEXT().rfind("  Assigned vector field (9x8x7) updated.\nMethod: ", 0) == 0);
+    CHECK(console.CONTAINS("\nWorking threads: 7\nParallel: 3\n"));
     CHECK(field.COUNT(VZERO) < 9 * 8 * 7);
-    console.text.clear();
+    console.CLEAR();
     CHECK(DIFFUSION_FIELD(scalar, field, 2, 1, false, 0)); // a limit below 1 counts as 1
-    CHECK_FALSE(console.Holds("Assigned"));
-    CHECK(console.Holds("\nWorking threads: 7\nParallel: 1\n"));
+    CHECK_FALSE(console.CONTAINS("Assigned"));
+    CHECK(console.CONTAINS("\nWorking threads: 7\nParallel: 1\n"));
 }
 
 TEST_CASE("a wrong scan length is told and changes no vector field") {
@@ -53,15 +53,15 @@ TEST_CASE("a wrong scan length is told and changes no vector field") {
     FILL_FIELD(scalar, TAG_GRAY, {9, 9, 8}, NOISE(1, 1, 255));
     T3D_VECTOR_ANALYSIS field(VECTOR_FLOAT, 2, 2, 2);
     for (const NAT r : {NAT{0}, NAT{-3}, NAT{4}, NAT{65536}, NATMAX, NATMIN}) {
-        CONSOLE_TEXT console;
+        CAPTURE console;
         CHECK_FALSE(DIFFUSION_FIELD(scalar, field, r, 1, false, 1));
-        CHECK(console.text == "Wrong scan size (" + std::to_string(r) + ")!\n");
+        CHECK(console.TEXT() == "Wrong scan size (" + std::to_string(r) + ")!\n");
         CHECK(field.SIZE() == VECTORNAT{2, 2, 2});
     }
     T3D_SCALAR_ANALYSIS nothing;
-    CONSOLE_TEXT console;
+    CAPTURE console;
     CHECK_FALSE(DIFFUSION_FIELD(nothing, field, 1, 1, false, 1));
-    CHECK(console.text == "Wrong scan size (1)!\n");
+    CHECK(console.TEXT() == "Wrong scan size (1)!\n");
 }
 
 TEST_CASE("the vector field takes the frame of the scalar") {
@@ -70,7 +70,7 @@ TEST_CASE("the vector field takes the frame of the scalar") {
     scalar._SETMATRIX(GM3({2, 0, 0}, {0, 0, 3}, {0, 4, 0}));
     scalar._SETMOVE({10, 20, 30});
     T3D_VECTOR_ANALYSIS field(VECTOR_FLOAT);
-    CONSOLE_TEXT console;
+    CAPTURE console;
     CHECK(DIFFUSION_FIELD(scalar, field, 2, 1, false, 1));
     CHECK(field.MOVE() == VECTOR{10, 20, 30});
     CHECK(field.MATRIX()[1] == VECTOR{0, 0, 3});
@@ -88,15 +88,15 @@ TEST_CASE("a reduced field fits only when its size times the factor is the scala
     FILL_FIELD(scalar, TAG_GRAY, {9, 8, 8}, NOISE(1, 1, 255));
     T3D_VECTOR_ANALYSIS field(VECTOR_FLOAT);
     for (int run = 0; run < 2; ++run) {
-        CONSOLE_TEXT console;
+        CAPTURE console;
         CHECK(DIFFUSION_FIELD(scalar, field, 2, 2, false, 1));
-        CHECK(console.Holds("  Assigned vector field (4x4x4) updated.\n"));
-        CHECK(console.Holds("\nWorking threads: 4\n"));
+        CHECK(console.CONTAINS("  Assigned vector field (4x4x4) updated.\n"));
+        CHECK(console.CONTAINS("\nWorking threads: 4\n"));
     }
     FILL_FIELD(scalar, TAG_GRAY, {8, 8, 8}, NOISE(1, 1, 255));
-    CONSOLE_TEXT console;
+    CAPTURE console;
     CHECK(DIFFUSION_FIELD(scalar, field, 2, 2, false, 1));
-    CHECK_FALSE(console.Holds("Assigned"));
+    CHECK_FALSE(console.CONTAINS("Assigned"));
 }
 
 TEST_CASE("the thread limit changes no byte of a scan") {
@@ -106,7 +106,7 @@ TEST_CASE("the thread limit changes no byte of a scan") {
         for (const bool adaptive : {false, true}) {
             if (adaptive && factor == 1) continue;
             T3D_VECTOR_ANALYSIS one(VECTOR_FLOAT), eight(VECTOR_FLOAT);
-            CONSOLE_TEXT console;
+            CAPTURE console;
             CHECK(DIFFUSION_FIELD(scalar, one, 3, factor, adaptive, 1));
             CHECK(DIFFUSION_FIELD(scalar, eight, 3, factor, adaptive, 8));
             CHECK(DIFFERENT_VECTORS(one, eight) == 0);
@@ -119,7 +119,7 @@ TEST_CASE("a scan overwrites a field of the right size cell by cell") {
     FILL_FIELD(scalar, TAG_GRAY, {7, 7, 7}, [](NAT x, NAT, NAT) { return x == 4 ? 0 : 9; });
     T3D_VECTOR_ANALYSIS field(VECTOR_FLOAT, 7, 7, 7);
     field.PUT(4, 4, 4, VECTOR{1, 2, 3});
-    CONSOLE_TEXT console;
+    CAPTURE console;
     CHECK(DIFFUSION_FIELD(scalar, field, 3, 1, false, 2));
     CHECK(field.GET(4, 4, 4) == VZERO);
 }

@@ -2,7 +2,7 @@
 
 #include "foundation/base/geometry.hpp"
 #include "orientation/scan/scan_fields.hpp"
-#include "support/console_text.hpp"
+#include "support/capture.hpp"
 
 #include <vector>
 
@@ -105,9 +105,9 @@ TEST_CASE("an empty volume tells so and leaves the vectors as they are") {
     T3D_SCALAR_ANALYSIS scalar(TAG_GRAY);
     T3D_VECTOR_ANALYSIS field(VECTOR_FLOAT, 3, 3, 3);
     field.PUT(2, 2, 2, VECTOR{1, 2, 3});
-    CONSOLE_TEXT console;
+    CAPTURE console;
     DIFFUSION(scalar, field, 2, 1);
-    CHECK(console.text == "Error! Empty vectorfield!\n");
+    CHECK(console.TEXT() == "Error! Empty vectorfield!\n");
     CHECK(field.GET(2, 2, 2) == VECTOR{1, 2, 3});
 }
 
