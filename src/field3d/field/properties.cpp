@@ -1,6 +1,7 @@
 #include "field3d/field/scalar_analysis.hpp"
 #include "field3d/format/file_base.hpp"
 #include "field3d/format/nifti_info.hpp"
+#include "field3d/format/read_raw.hpp"
 #include "field3d/format/stats.hpp"
 #include "foundation/console/files.hpp"
 
@@ -44,7 +45,8 @@ bool T3D_SCALAR_ANALYSIS::LOAD_FRAMEWORK(BYTE tag, const UTF16 &file) {
     if (!READ_PROPERTIES(file, header)) return false;
     DONE();
     INIT(tag);
-    NEW(header.dim[1], header.dim[2], header.dim[3]);
+    const VECTORNAT size{header.dim[1], header.dim[2], header.dim[3]};
+    _DISPATCH([&](auto &raster) { return MAKEZERO(raster, size); });
     TAKE_FRAME(*this, header);
     return ISNOTEMPTY();
 }

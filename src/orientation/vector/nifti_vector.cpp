@@ -1,6 +1,7 @@
 #include "field3d/format/file_base.hpp"
 #include "field3d/format/nifti.hpp"
 #include "field3d/format/nifti_info.hpp"
+#include "field3d/format/read_raw.hpp"
 #include "field3d/format/stats.hpp"
 #include "foundation/console/console.hpp"
 #include "foundation/console/paths.hpp"
@@ -217,6 +218,15 @@ bool T3D_VECTOR_ANALYSIS::LOAD_FRAMEWORK(BYTE tag, const UTF16 &name) {
     TNIFTI header;
     if (!ReadHeader(name, header)) return false;
     if (header.dim[1] + header.dim[2] + header.dim[3] + header.dim[4] < 1) return false;
+    // A header alone can claim any size: no more is made of it than of a file that is too short.
+    const NAT voxels = NAT{header.dim[1]} * header.dim[2] * header.dim[3];
+    if (voxels > SHORT_FIELD_BYTES / NAT{sizeof(VECTOR)}) {
+        WRITELN("  Couldn't make field (" + GETSTRING(header.dim[1]) + "x" +
+                GETSTRING(header.dim[2]) + "x" + GETSTRING(header.dim[3]) +
+                ") from a header! Create empty field.");
+        INIT(tag);
+        return false;
+    }
     INIT(tag, header.dim[1], header.dim[2], header.dim[3]);
     if (sizeX < 1) return false;
     TakeFrame(header, *this);
