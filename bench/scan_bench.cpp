@@ -10,11 +10,10 @@
 #include <cstring>
 #include <ctime>
 #include <random>
-#include <string>
 #include <vector>
 
 // The scan beside its plain twin, on one thread; processor time, so other load matters little.
-// bench_scan [folder of mri_head_2mm.nii.gz [full]]; with "full" the 256^3 scan is run whole.
+// bench_scan [full]; with "full" the 256^3 scan is run whole, too.
 namespace morvane {
 namespace {
 double Seconds() {
@@ -93,7 +92,6 @@ void Whole(NAT edge, NAT r) {
 int main(int count, char **arguments) {
     using namespace morvane;
     VERBOSE = false;
-    const std::string folder = count > 1 ? arguments[1] : "/work/shared/data/nifti";
     T3D_SCALAR_ANALYSIS scalar;
     Noise(scalar, TAG_GRAY, {128, 64, 40}, 255);
     Compare("8 bits without zeros", scalar, 8);
@@ -102,12 +100,12 @@ int main(int count, char **arguments) {
     Compare("12 bits without zeros", scalar, 16);
     Noise(scalar, TAG_FULLGRAY, {128, 64, 40}, 65535);
     Compare("16 bits without zeros", scalar, 16);
-    scalar.LOAD(TAG_GRAY, UTF16(folder + "/mri_head_2mm.nii.gz"));
+    scalar.LOAD(TAG_GRAY, MORVANE_EXAMPLE_DATA "/mri_head_2mm.nii.gz");
     if (scalar.ISNOTEMPTY()) {
         scalar.SETLOWER(30, 0);
         Compare("head, background zero", scalar, 8);
         Compare("head, background zero", scalar, 16);
     }
-    if (count > 2 && std::strcmp(arguments[2], "full") == 0) Whole(256, 8);
+    if (count > 1 && std::strcmp(arguments[1], "full") == 0) Whole(256, 8);
     return 0;
 }
