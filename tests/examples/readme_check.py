@@ -9,7 +9,7 @@ import subprocess
 import sys
 import tempfile
 
-program, root = sys.argv[1:3]
+program, root = (os.path.abspath(path) for path in sys.argv[1:3])
 blocks = re.findall(r"```\n(.*?)```", open(os.path.join(root, "README.md"), encoding="utf-8").read(), re.S)
 macro = next(block for block in blocks if block.startswith("debug.no"))
 expected = next(block for block in blocks if block.startswith("Script runs..."))
