@@ -126,7 +126,7 @@ int RUN_PROGRAM(int argc, const char *const *argv) {
     TPARAMETER options(argc, argv);
     options.INIT(PROGRAM_NAME, MAKER, FIRST_YEAR, ADDRESS);
     options.USAGE("morvane [<options>]");
-    const bool isFirst = options.GETBOOLEAN("first", false, "Write first macro file example");
+    const bool isFirst = options.GETFLAG("first", "Write first macro file example");
     const UTF16 macroFile =
         WITHOUT_QUOTES(options.GETLASTSTRING("macro", "morvane.macro", "macro file"));
     READ_OPTIONS(options, engine);

@@ -26,7 +26,7 @@ NAT READ_AREAS(const TFILEREADTEXT &text, T3D_SCALAR_ANALYSIS &field) {
     NAT count = 0;
     UTF16 name;
     for (NAT i = 1; i <= text.LENGTH(); ++i)
-        if (AREA_NAME(text.GET(i), name)) field.LABELS_PUT(count++, name);
+        if (AREA_NAME(text.GET(i), name) && field.LABELS_PUT(count, name)) ++count;
     return count;
 }
 
@@ -37,16 +37,16 @@ NAT READ_TABLE(const TFILEREADTEXT &text, T3D_SCALAR_ANALYSIS &field) {
         UTF16 name = text.GET(i);
         const UTF16 value = SPLIT(name, UTF16(POS(UTF16("\t"), name) > 0 ? "\t" : "#"));
         if (!ISDIGIT(value) || name.EMPTY()) continue;
-        field.LABELS_PUT(GETNAT(value), name);
-        ++count;
+        if (field.LABELS_PUT(GETNAT(value), name)) ++count;
     }
     return count;
 }
 
 NAT READ_NAMES(const TFILEREADTEXT &text, T3D_SCALAR_ANALYSIS &field) {
+    NAT count = 0;
     for (NAT i = 1; i <= text.LENGTH(); ++i)
-        field.LABELS_PUT(i - 1, text.GET(i));
-    return text.LENGTH();
+        if (field.LABELS_PUT(i - 1, text.GET(i))) ++count;
+    return count;
 }
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "field3d/field/scalar_analysis.hpp"
 #include "field3d/format/file_base.hpp"
+#include "field3d/format/nifti.hpp"
 #include "field3d/format/nifti_info.hpp"
 #include "field3d/format/read_raw.hpp"
 #include "field3d/format/stats.hpp"
@@ -52,7 +53,7 @@ bool T3D_SCALAR_ANALYSIS::LOAD_FRAMEWORK(BYTE tag, const UTF16 &file) {
 }
 
 bool T3D_SCALAR_ANALYSIS::SAVE_PROPERTIES(const UTF16 &file) const {
-    if (file.EMPTY() || !active) return false;
+    if (file.EMPTY() || !active || !FITS_NIFTI(SIZE())) return false;
     const NIFTI_KIND kind = BITS() == 16 ? NIFTI_KIND{512, 16} : NIFTI_KIND{2, 8};
     const TNIFTI header = MAKENIFTI(kind, SIZE(), GETFRAME(), false);
     FILE_WRITE target;

@@ -108,8 +108,8 @@ public:
     void HISTOGRAM_FAST(TPOLYNAT &bins) const; // of at least three slices drawn at random
 
     // Names of values. Positions outside the voxel range, and 1-bit fields, have none.
-    UTF16 LABELS_GET(NAT value) const; // a stored "*" is the label before
-    void LABELS_PUT(NAT value, const UTF16 &text);
+    UTF16 LABELS_GET(NAT value) const;             // a stored "*" is the label before
+    bool LABELS_PUT(NAT value, const UTF16 &text); // false: the value can have no name
     NAT LABELS_LENGTH() const { return labels.LENGTH; }
     void LABELS_CLEAR();
     void LABELS_CLONE(const T3D_SCALAR_ANALYSIS &other);

@@ -21,8 +21,10 @@ UTF16 T3D_SCALAR_ANALYSIS::LABELS_GET(NAT value) const {
     return labels.GET(position);
 }
 
-void T3D_SCALAR_ANALYSIS::LABELS_PUT(NAT value, const UTF16 &text) {
-    if (ISLABEL(*this, value)) labels.PUT(value + 1, UTF16CHARS7(text));
+bool T3D_SCALAR_ANALYSIS::LABELS_PUT(NAT value, const UTF16 &text) {
+    if (!ISLABEL(*this, value)) return false;
+    labels.PUT(value + 1, UTF16CHARS7(text));
+    return true;
 }
 
 void T3D_SCALAR_ANALYSIS::LABELS_CLEAR() { labels.DONE(); }
@@ -45,7 +47,7 @@ bool T3D_SCALAR_ANALYSIS::LABELS_SAVE(const UTF16 &file) const {
     FILE_WRITE output;
     if (!ASSIGNWRITE(output, file)) return false;
     for (NAT value = 0; value <= labels.LENGTH; ++value) {
-        const UTF16 text = labels.GET(value + 1);
+        const UTF16 text = LABELS_GET(value);
         if (!text.EMPTY()) output.WRITELN(GETSTRING(value) + UTF16("\t") + text);
     }
     return output.COMMIT();

@@ -75,12 +75,15 @@ template <class FIELD> bool SAVE_NIFTI(const FIELD &field, const UTF16 &name) {
 }
 } // namespace
 
+bool FITS_NIFTI(const VECTORNAT &size) {
+    if (std::max({size.x, size.y, size.z}) <= INT16_MAX) return true;
+    WRITELN(UTF16("  Field (") + SIZE_TEXT(size) + UTF16(") too large for this format!"));
+    return false;
+}
+
 bool NIFTI_TARGET::OPEN(const UTF16 &name, const NIFTI_KIND &kind, const VECTORNAT &size,
                         const FRAME &frame) {
-    if (std::max({size.x, size.y, size.z}) > INT16_MAX) {
-        WRITELN(UTF16("  Field (") + SIZE_TEXT(size) + UTF16(") too large for this format!"));
-        return false;
-    }
+    if (!FITS_NIFTI(size)) return false;
     const UTF16 extension = GETEXTENSION(name);
     pair = extension == UTF16("hdr");
     const bool zipped = extension == UTF16("nii.gz");

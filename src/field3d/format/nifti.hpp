@@ -6,6 +6,9 @@
 
 // NIfTI-1 and Analyze files. The plain and the gzip forms are one implementation.
 namespace morvane {
+// False: a side is longer than a header can hold, which has been told.
+[[nodiscard]] bool FITS_NIFTI(const VECTORNAT &size);
+
 // A NIfTI file under way: the header first, then the data in order. Nothing replaces an old file
 // before DONE has succeeded.
 class NIFTI_TARGET {

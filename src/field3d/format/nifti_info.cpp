@@ -28,7 +28,8 @@ INFO_KIND KIND_OF(const UTF16 &file) {
     const std::string extension = GETUTF8(GETEXTENSION(file));
     for (const INFO_ROW &row : ROWS)
         if (row.extension == extension) return row.kind;
-    return extension.ends_with("gz") ? INFO_KIND::GZ : INFO_KIND::PLAIN;
+    const bool zipped = extension == "gz" || extension.ends_with(".gz");
+    return zipped ? INFO_KIND::GZ : INFO_KIND::PLAIN;
 }
 
 bool READ_HEADER(const UTF16 &file, TNIFTI &header, bool zipped) {

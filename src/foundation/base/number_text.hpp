@@ -61,6 +61,9 @@ UTF16 GETSTRING(std::integral auto value) requires(!std::same_as<decltype(value)
     else
         return GETSTRING_NAT(static_cast<NAT>(value));
 }
+UTF16 GETSTRING(std::unsigned_integral auto value, std::same_as<bool> auto grouped) {
+    return GETSTRING_UNSIGNED(value, grouped);
+}
 UTF16 GETSTRING(const COMPLEX &value);
 UTF16 GETSTRING(const VECTOR &value);
 UTF16 GETSTRING(const HYPER &value);

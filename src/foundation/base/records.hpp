@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <cstdint>
 #include <limits>
 #include <numbers>
@@ -65,6 +66,10 @@ struct MATRIX4 {
 // A symmetric matrix: diagonal (xx, yy, zz), then off-diagonal (xy, xz, yz).
 struct SYMMATRIX3 {
     VECTOR diagonal, off;
+    // GETSYMMATRIX3 of the matrix: all zeros when it is not exactly symmetric.
+    template <std::same_as<MATRIX3> M> SYMMATRIX3 &operator=(const M &matrix) {
+        return *this = GETSYMMATRIX3(matrix);
+    }
     friend constexpr bool operator==(const SYMMATRIX3 &, const SYMMATRIX3 &) = default;
 };
 // A triangle.

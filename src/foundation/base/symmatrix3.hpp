@@ -2,7 +2,7 @@
 
 #include "foundation/base/record_operators.hpp"
 
-// Symmetric 3x3 matrices: tensors.
+// Symmetric 3x3 matrices: tensors. A MATRIX3 is assigned to one through GETSYMMATRIX3.
 namespace morvane {
 // The diagonal and the lower triangle of m; SM3ZERO when the upper triangle is not exactly equal.
 SYMMATRIX3 GETSYMMATRIX3(const MATRIX3 &m);

@@ -51,7 +51,11 @@ template <class T, char CODE> T TMATRIX_OF<T, CODE>::GET(NAT x, NAT y) const {
 }
 
 template <class T, char CODE> void TMATRIX_OF<T, CODE>::PUT(NAT x, NAT y, const T &value) {
-    if (this->DYNAMIC > 0 || this->SIZE < 1) return PUT_DYNAMIC(x, y, value);
+    if (this->DYNAMIC > 0 || this->SIZE < 1) {
+        PUT_DYNAMIC(x, y, value);
+        if (this->LENGTH < 1) WIDTH = HEIGHT = 0; // nothing written yet, or memory ran out
+        return;
+    }
     if (INTO(x, y)) LIST::PUT(POSITION(x, y), value);
 }
 

@@ -62,6 +62,7 @@ void TPOLYBOOL::PUT(NAT index, bool value) {
         if (SIZE < 1) INIT();
         if (DYNAMIC < 1) return;
         if (index >> 3 >= LENGTH) EXTEND((index >> 3) + 1);
+        if (LENGTH < 1) BITS = 0; // no memory, which has been told
         if (index >> 3 >= LENGTH) return;
         BITS = index + 1;
     }

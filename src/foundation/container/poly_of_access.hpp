@@ -21,11 +21,13 @@ template <class T> void TPOLY_OF<T>::INIT(NAT count) {
 
 template <class T> void TPOLY_OF<T>::NEWLENGTH(NAT count) {
     if (SIZE < 1) INIT();
+    if (count > LENGTH) this->SETFLAGS(false); // zeros behind the last element break an order
     TPOLY::NEWLENGTH(count);
 }
 
 template <class T> void TPOLY_OF<T>::ADDLENGTH(NAT count) {
     if (SIZE < 1) INIT();
+    if (count > 0) this->SETFLAGS(false);
     TPOLY::ADDLENGTH(count);
 }
 
@@ -60,13 +62,18 @@ template <class T> void TPOLY_OF<T>::CLEAR() requires ANY_OF<T, BYTE> { FILL(0);
 
 template <class T> void TPOLY_OF<T>::REPLACE(const TPOLY_OF &other) {
     if (SIZE < 1) INIT();
+    if (other.SIZE < 1) return NEWLENGTH(0); // never filled
     TPOLY::REPLACE(other);
     if (LENGTH == other.LENGTH) static_cast<POLY_FLAGS<T> &>(*this) = other;
 }
 
 template <class T> void TPOLY_OF<T>::REPLACE(NAT start, NAT count, const TPOLY_OF &other) {
     if (SIZE < 1) INIT();
-    if (other.SIZE < 1) return;
+    if (other.SIZE < 1) { // never filled
+        TPOLY_OF empty;
+        empty.INIT();
+        return REPLACE(start, count, empty);
+    }
     TPOLY::REPLACE(start, count, other);
     this->SETFLAGS(false);
 }

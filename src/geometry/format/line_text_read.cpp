@@ -114,7 +114,8 @@ bool LOAD_ALL(TCLOUD &cloud, const UTF16 &name, const LINE_SHARE *share) {
     if (!HAS_WILDCARD(name)) return LOAD_FILE(cloud, name, share);
     const UTF16 directory = COPY(name, 1, name.LENGTH() - GETFILE(name).LENGTH());
     const TPOLYCHARS files = MATCHING_FILES(name);
-    bool isLoaded = files.LENGTH > 0;
+    if (files.LENGTH < 1) return LOAD_FILE(cloud, name, share); // tells that there is none
+    bool isLoaded = true;
     for (NAT i = 1; i <= files.LENGTH; ++i)
         isLoaded = LOAD_FILE(cloud, directory + files.GET(i).GET(), share) && isLoaded;
     return isLoaded;

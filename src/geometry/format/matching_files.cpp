@@ -6,12 +6,21 @@
 #include <dirent.h>
 #include <fnmatch.h>
 #include <memory>
+#include <string>
 
 namespace morvane {
 namespace {
 struct CLOSE_DIRECTORY {
     void operator()(DIR *directory) const { closedir(directory); }
 };
+
+// The mask for fnmatch, which also knows sets in brackets: here a bracket stands for itself.
+std::string PATTERN(const UTF16 &mask) {
+    std::string pattern;
+    for (const char unit : GETUTF8(mask))
+        pattern += unit == '[' ? std::string("[[]") : std::string(1, unit);
+    return pattern;
+}
 } // namespace
 
 bool HAS_WILDCARD(const UTF16 &name) {
@@ -27,11 +36,8 @@ TPOLYCHARS MATCHING_FILES(const UTF16 &name) {
     const UTF16 directory = COPY(normal, 1, normal.LENGTH() - mask.LENGTH());
     const std::string path = directory.EMPTY() ? "." : GETUTF8(directory);
     const std::unique_ptr<DIR, CLOSE_DIRECTORY> list(opendir(path.c_str()));
-    if (!list) {
-        IOERROR(name);
-        return files;
-    }
-    const std::string pattern = GETUTF8(mask);
+    if (!list) return files;
+    const std::string pattern = PATTERN(mask);
     while (const dirent *entry = readdir(list.get())) {
         if (fnmatch(pattern.c_str(), entry->d_name, FNM_PERIOD) != 0) continue;
         const UTF16 file = GETUTF16(entry->d_name);

@@ -4,6 +4,7 @@
 #include "foundation/base/rounding.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace morvane {
@@ -12,7 +13,11 @@ VECTOR PLACE(const HYPER &point) { return {point.x, point.y, point.z}; }
 HYPER WITH_PLACE(const HYPER &point, const VECTOR &place) {
     return {place.x, place.y, place.z, point.w};
 }
-REAL SNAP(REAL value, REAL step) { return static_cast<REAL>(ROUND(value / step)) * step; }
+// From 2^53 steps on a value is a multiple as far as its digits tell; an infinite one stays too.
+REAL SNAP(REAL value, REAL step) {
+    const REAL steps = value / step;
+    return std::abs(steps) < 0x1p53 ? static_cast<REAL>(ROUND(steps)) * step : value;
+}
 
 // Erases the lines for which the test holds.
 template <class TEST> NAT ERASE_WHERE(TCLOUD &cloud, TEST test) {
@@ -100,13 +105,13 @@ NAT ERASE_LENGTH_MAX(TCLOUD &cloud, REAL limit) {
 }
 
 void DISCRETE(TCLOUD &cloud, REAL step) {
-    if (step == 0) return;
+    if (step == 0 || !std::isfinite(step)) return;
     for (HYPER &p : cloud.SPAN())
         p = {SNAP(p.x, step), SNAP(p.y, step), SNAP(p.z, step), SNAP(p.w, step)};
 }
 
 void DISCRETE_3D(TCLOUD &cloud, REAL step) {
-    if (step == 0) return;
+    if (step == 0 || !std::isfinite(step)) return;
     for (HYPER &p : cloud.SPAN())
         p = {SNAP(p.x, step), SNAP(p.y, step), SNAP(p.z, step), p.w};
 }

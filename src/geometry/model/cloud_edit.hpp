@@ -20,7 +20,8 @@ NAT ERASE_DUPLICATES_BEGIN(TCLOUD &cloud, REAL distance);
 // averaged yet, become their mean (all four values).
 void MEAN_DUPLICATES_NEAR(TCLOUD &cloud, REAL distance);
 
-// Round to multiples of `step`, all four values or only x, y, z; nothing for a step of 0.
+// Round to multiples of `step`, all four values or only x, y, z; nothing for a step
+// of 0 or without a finite number.
 void DISCRETE(TCLOUD &cloud, REAL step);
 void DISCRETE_3D(TCLOUD &cloud, REAL step);
 // Subtract the middle of the bounding box, of all points or of each object's own; t stays.

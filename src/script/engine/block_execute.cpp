@@ -22,6 +22,7 @@ void FlushAndRest() {
 
 void RUN_EXECUTE(TMACRO &engine, BLOCK_FRAME &frame) {
     engine._EVALUATE(*frame.part);
+    if (engine.stop) return;
     if (engine.PARAMETERLENGTH() < 1) return engine.PARAMETERERROR(1);
     if (!engine.switches.EXECUTE) return engine.ERROR("execute is switched off");
     UTF16 program = engine.GETPARAMETER(1), arguments;
@@ -42,13 +43,19 @@ void RUN_EXECUTE(TMACRO &engine, BLOCK_FRAME &frame) {
 
 void RUN_HALT(TMACRO &engine, BLOCK_FRAME &frame) {
     engine._EVALUATE(*frame.part);
+    HALT(engine);
+}
+
+void RUN_BREAK(TMACRO &engine, BLOCK_FRAME &frame) {
+    engine._EVALUATE(*frame.part);
+    BREAK(engine);
+}
+
+void HALT(TMACRO &engine) {
     const NAT status = GETNAT(engine.GETPARAMETER_ERRORFREE(1));
     engine.STOPSCRIPT("Script & program halt. Terminate everything.");
     TMACRO::EXIT(static_cast<int>(status & 0xFF));
 }
 
-void RUN_BREAK(TMACRO &engine, BLOCK_FRAME &frame) {
-    engine._EVALUATE(*frame.part);
-    engine.STOPSCRIPT("Script break. Terminate everything.");
-}
+void BREAK(TMACRO &engine) { engine.STOPSCRIPT("Script break. Terminate everything."); }
 } // namespace morvane

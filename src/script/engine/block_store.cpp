@@ -14,6 +14,7 @@ struct OUTPUT_WORD {
 
 void RunOutput(TMACRO &engine, BLOCK_FRAME &frame, const OUTPUT_WORD &output) {
     engine._EVALUATE(*frame.part);
+    if (engine.stop) return;
     if (engine.PARAMETERLENGTH() < 1) return engine.MIN_PARAMETERERROR(1);
     const UTF16 file = engine.GETPARAMETER(1);
     engine._TRACE(output.word, COLOUR::PROCEDURE, file);

@@ -37,6 +37,8 @@ void DECLARE_LOCAL(TMACRO &engine, BLOCK_FRAME &frame);
 void DECLARE_GLOBAL(TMACRO &engine, BLOCK_FRAME &frame);
 void RUN_HALT(TMACRO &engine, BLOCK_FRAME &frame);
 void RUN_BREAK(TMACRO &engine, BLOCK_FRAME &frame);
+void HALT(TMACRO &engine);  // with the parameters that the engine holds
+void BREAK(TMACRO &engine); // the same
 
 void RUN_EXECUTE(TMACRO &engine, BLOCK_FRAME &frame);
 void RUN_OUTPUT_STORE(TMACRO &engine, BLOCK_FRAME &frame);

@@ -1,6 +1,7 @@
 #include "script/engine/macro.hpp"
 
 #include "foundation/console/console.hpp"
+#include "script/engine/blocks.hpp"
 
 namespace morvane {
 // What stands behind the target and the operator of an assignment decides: a function, a function
@@ -39,6 +40,9 @@ void TMACRO::CallProcedure(BLOCK_FRAME &frame) {
 
 void TMACRO::_BLOCK_PROCEDURE_CHECK_LISTE(BLOCK_FRAME &frame, UTF16 name) {
     const NAT index = SEARCH_BLOCK_PROCEDURE_COMMAND(name, INTERACTION);
+    // The two keywords reach this place only as the answer to the question of a repair.
+    if (index == 0 && name == "halt") return HALT(*this);
+    if (index == 0 && name == "break") return BREAK(*this);
     if (index == 0) return SYNTAX_PROCEDURE_ERROR(name);
     CallEntry(frame, index, name);
 }

@@ -79,9 +79,15 @@ NAT COMMAND_TABLE::NumberForm(const UTF16 &name, unsigned groups) const {
     return 0;
 }
 
+NAT COMMAND_TABLE::SEARCHEXACT(const UTF16 &name, unsigned groups) {
+    const NAT index = Exact(name.LOWBYTES.VIEW(), name.HIGHBYTES.VIEW(), groups);
+    if (index > 0) ++GET(index).useCount;
+    return index;
+}
+
 NAT COMMAND_TABLE::SEARCH(const UTF16 &name, unsigned groups) {
-    NAT index = Exact(name.LOWBYTES.VIEW(), name.HIGHBYTES.VIEW(), groups);
-    if (index == 0) index = NumberForm(name, groups);
+    if (const NAT index = SEARCHEXACT(name, groups); index > 0) return index;
+    const NAT index = NumberForm(name, groups);
     if (index > 0) ++GET(index).useCount;
     return index;
 }

@@ -58,6 +58,7 @@ public:
     // The newest entry of the exact name in one of the groups (bit n of `groups` is group n), or of
     // one of its English number forms; 0 for none. A hit raises the use count.
     NAT SEARCH(const UTF16 &name, unsigned groups);
+    NAT SEARCHEXACT(const UTF16 &name, unsigned groups); // the same without number forms
 
 private:
     NAT Exact(std::string_view low, std::string_view high, unsigned groups) const;

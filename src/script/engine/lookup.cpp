@@ -7,7 +7,7 @@ namespace morvane {
 NAT TMACRO::SEARCH_BLOCK_PROCEDURE_COMMAND(UTF16 &name, bool repair) {
     const NAT index = commands.SEARCH(name, PROCEDURES);
     if (index > 0 || !repair || !verbose || !REPAIR_COMMAND(name)) return index;
-    return commands.SEARCH(name, PROCEDURES);
+    return commands.SEARCHEXACT(name, PROCEDURES);
 }
 
 NAT TMACRO::SEARCH_FUNCTION_COMMAND(const UTF16 &name) { return commands.SEARCH(name, FUNCTIONS); }

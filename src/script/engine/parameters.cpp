@@ -184,6 +184,7 @@ UTF16 TMACRO::ReplaceToken(const TOKEN &token) {
     case 3: return ReplaceElements(token.text);
     case 4: return ReadElement(token.text);
     case 9:
+        if (stop) return {}; // an earlier one has failed and told it
         if (_LAMBDA_CHECK_LISTE(LOWERCASE(token.text))) return COMMAND_RESULT;
         return _REPLACE_CONSTANTS(token.text);
     case 0:

@@ -3,11 +3,16 @@
 #include "script/engine/keywords_table.hpp"
 
 namespace morvane {
+namespace {
+constexpr UTF16CHAR BYTE_ORDER_MARK{0xFF, 0xFE}; // low byte, high byte
+} // namespace
+
 UTF16 CUT_COMMENT(const UTF16 &line) {
     UTF16 text = KILLLAST(KILLFIRST(line, ' ', '\t'), ' ', '\t');
     if (POS("//", text) == 1) return {};
     // Deliberate: a comment mark inside a quoted text ends the line too.
-    if (const NAT comment = POS(" //", text); comment > 0) text = COPY(text, 1, comment - 1);
+    if (const NAT comment = POS(" //", text); comment > 0)
+        text = KILLLAST(COPY(text, 1, comment - 1), ' ', '\t');
     const UTF16CHAR first = text.GETCHAR(1);
     if (first.high == 0 && (first.low == '#' || first.low == '%')) return {};
     return text;
@@ -38,7 +43,8 @@ void SCRIPT_LINES::Prepare(const TFILECOMMAND &script, NAT line) {
     if (offset >= lines.size()) lines.resize(static_cast<std::size_t>(script.LENGTH()));
     SLOT &slot = lines[offset];
     slot.ready = true;
-    const UTF16 text = script.GET(line);
+    UTF16 text = script.GET(line);
+    if (line == 1 && text.GETCHAR(1) == BYTE_ORDER_MARK) DELETE(text, 1, 1);
     if (line == 1 && POS("!", text) == 1) return;
     const UTF16 kept = CUT_COMMENT(text);
     if (!kept.EMPTY()) slot.part = std::make_unique<LINE_PART>(PREPARE_PART(kept));

@@ -110,7 +110,14 @@ VECTOR TPARAMETER::GETVECTOR(const UTF16 &name, const VECTOR &standard, const UT
 
 bool TPARAMETER::GETBOOLEAN(const UTF16 &name, bool standard, const UTF16 &legend) const {
     const PAIR *pair = isHelp ? nullptr : _SEARCH(name);
-    const bool value = pair ? pair->bare || morvane::GETBOOLEAN(pair->value) : standard;
+    const bool value = pair ? morvane::GETBOOLEAN(pair->value) : standard;
+    _PRINTLINE("  +/-", name, legend, value ? "on" : "off");
+    return value;
+}
+
+bool TPARAMETER::GETFLAG(const UTF16 &name, const UTF16 &legend) const {
+    const PAIR *pair = isHelp ? nullptr : _SEARCH(name);
+    const bool value = pair && (pair->bare || morvane::GETBOOLEAN(pair->value));
     _PRINTLINE("  +/-", name, legend, value ? "on" : "off");
     return value;
 }

@@ -38,6 +38,8 @@ public:
     NAT GETNAT(const UTF16 &name, NAT standard, NAT min, NAT max, const UTF16 &legend) const;
     VECTOR GETVECTOR(const UTF16 &name, const VECTOR &standard, const UTF16 &legend) const;
     bool GETBOOLEAN(const UTF16 &name, bool standard, const UTF16 &legend) const;
+    // A switch that is off as a rule: "-name" alone turns it on, not off.
+    bool GETFLAG(const UTF16 &name, const UTF16 &legend) const;
 
     NAT PAIR_LENGTH() const;                                  // entries with a name
     bool GETPAIR(NAT index, UTF16 &name, UTF16 &value) const; // the index-th of those, from 1
@@ -47,7 +49,7 @@ private:
     struct PAIR {
         UTF16CHARS7 name; // empty: a positional value
         UTF16CHARS7 value;
-        bool bare = false; // "-name" alone: its text is "false", as a switch it is on
+        bool bare = false; // "-name" alone: its text is "false", as a flag it is on
     };
 
     void _READARGUMENTS();

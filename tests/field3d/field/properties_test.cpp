@@ -29,6 +29,15 @@ TEST_CASE("saved properties are a header of 348 bytes without data") {
     CHECK(folder.GET("wide.hdr")[71] == 2); // 512
 }
 
+TEST_CASE("properties with a side beyond 32767 don't fit a header and are not written") {
+    CAPTURE console;
+    const TEMPORARY_FOLDER folder;
+    const T3D_SCALAR_ANALYSIS field(TAG_GRAY, 32768, 1, 1);
+    CHECK_FALSE(field.SAVE_PROPERTIES(folder.PATH("frame.hdr")));
+    CHECK(console.TEXT() == "  Field (32768x1x1) too large for this format!\n");
+    CHECK(folder.ENTRIES() == 0);
+}
+
 TEST_CASE("loaded properties replace offset and matrix and keep the voxels") {
     CAPTURE console;
     const TEMPORARY_FOLDER folder;

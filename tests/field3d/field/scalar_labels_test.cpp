@@ -55,12 +55,40 @@ TEST_CASE("labels save as value, tab and name, and load equal") {
     field.LABELS_PUT(7, "Ä bone");
     field.LABELS_PUT(8, "*");
     CHECK(field.LABELS_SAVE(UTF16(folder.PATH("a.labels"))));
-    CHECK(folder.GET("a.labels") == "0\tair\n7\tÄ bone\n8\t*\n");
+    CHECK(folder.GET("a.labels") == "0\tair\n7\tÄ bone\n8\tÄ bone\n");
     again.LABELS_LOAD(UTF16(folder.PATH("a.labels")));
     CHECK(console.CONTAINS("  Found 3 labels.\n"));
     CHECK(again.NAME(0) == "air");
     CHECK(again.NAME(8) == "Ä bone");
     CHECK(again.NAME(5).empty());
+}
+
+TEST_CASE("a 1-bit field that took over labels saves none of them") {
+    const CAPTURE console;
+    const TEMPORARY_FOLDER folder;
+    LABELLED other;
+    other.LABELS_PUT(1, "bone");
+    T3D_SCALAR_ANALYSIS field(TAG_MONO, 1, 1, 1);
+    field.LABELS_CLONE(other);
+    CHECK(field.LABELS_SAVE(UTF16(folder.PATH("a.labels"))));
+    CHECK(folder.GET("a.labels").empty());
+}
+
+TEST_CASE("only stored labels are counted") {
+    CAPTURE console;
+    const TEMPORARY_FOLDER folder;
+    folder.PUT("table.txt", "1\tbone\n256\tfar\n");
+    folder.PUT("names.txt", "air\nwater\n");
+    folder.PUT("atlas.xml", "<atlas>\n<area name=\"One\">\n<area name=\"Two\">\n");
+    LABELLED field;
+    field.LABELS_LOAD(UTF16(folder.PATH("table.txt")));
+    CHECK(console.CONTAINS("  Found one label.\n"));
+    T3D_SCALAR_ANALYSIS bits(TAG_MONO, 1, 1, 1);
+    for (const char *name : {"table.txt", "names.txt", "atlas.xml"}) {
+        console.CLEAR();
+        bits.LABELS_LOAD(UTF16(folder.PATH(name)));
+        CHECK(console.CONTAINS("  Found nothing.\n"));
+    }
 }
 
 TEST_CASE("nothing is saved without a name or without labels") {

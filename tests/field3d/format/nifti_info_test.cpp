@@ -123,6 +123,14 @@ TEST_CASE("formats without a readable header say so") {
     CHECK(console.TEXT() == "Zipped file not provided!\n");
 }
 
+TEST_CASE("an extension that only ends in gz is looked at like any other") {
+    CAPTURE console;
+    const TEMPORARY_FOLDER folder;
+    folder.PUT("a.mgz", BYTES_OF(SAMPLE()));
+    CHECK(INFO_NII_TXT(UTF16(folder.PATH("a.mgz"))));
+    CHECK(console.CONTAINS("Data array dimensions"));
+}
+
 TEST_CASE("the function gives kind, size, stacks and further axes between tabs") {
     const CAPTURE console;
     const TEMPORARY_FOLDER folder;

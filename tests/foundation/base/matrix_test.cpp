@@ -3,6 +3,8 @@
 #include "foundation/base/matrix4.hpp"
 #include "foundation/base/symmatrix3.hpp"
 
+#include <type_traits>
+
 #include <doctest/doctest.h>
 
 using namespace morvane;
@@ -59,6 +61,15 @@ TEST_CASE("a matrix is negative when the sum of its nine elements is, whatever i
 
 TEST_CASE("a matrix that is not exactly symmetric becomes the zero tensor") {
     CHECK(GETSYMMATRIX3(GM3({1, 4, 5}, {4, 2, 6}, {5, 6.0000001, 3})) == SM3ZERO);
+}
+
+TEST_CASE("a matrix assigned to a tensor is converted by the same rule") {
+    SYMMATRIX3 tensor = SM3NORM;
+    tensor = GM3({1, 4, 5}, {4, 2, 6}, {5, 6, 3});
+    CHECK(tensor == SYMMATRIX3{{1, 2, 3}, {4, 5, 6}});
+    tensor = GM3({1, 4, 5}, {4, 2, 6}, {5, 7, 3});
+    CHECK(tensor == SM3ZERO);
+    static_assert(std::is_aggregate_v<SYMMATRIX3> && std::is_trivially_copyable_v<SYMMATRIX3>);
 }
 
 TEST_CASE("a symmetric matrix and its tensor convert into each other") {

@@ -202,6 +202,7 @@ TEST_CASE("GETSTRING knows the ends of the whole numbers") {
     CHECK(S(GETSTRING(std::uint64_t{18446744073709551615U})) == "18446744073709551615");
     CHECK(S(GETSTRING_UNSIGNED(18446744073709551615U, true)) == "18,446,744,073,709,551,615");
     CHECK(S(GETSTRING_UNSIGNED(999, true)) == "999");
+    CHECK(S(GETSTRING(std::uint64_t{1234567}, true)) == "1,234,567");
 }
 
 TEST_CASE("GETSTRING of a boolean is true or false") {

@@ -128,3 +128,18 @@ TEST_CASE("a moved matrix carries its size") {
     CHECK(a.WIDTH == 0);
     CHECK(a.LENGTH == 0);
 }
+
+TEST_CASE("without memory a growing matrix becomes empty and reads DEFAULT") {
+    for (const NAT y : {NAT{1}, NAT{2}}) {
+        CAPTURE console;
+        TMATRIXNAT matrix;
+        matrix.INIT();
+        matrix.PUT(1, y, 5);
+        matrix.DEFAULT = 9;
+        matrix.PUT(y == 1 ? NATMAX / 4 : 1, y == 1 ? 1 : NATMAX / 4, 6);
+        CHECK(console.TEXT() == "  Not enough Memory! Create empty field.\n");
+        CHECK(matrix.WIDTH == 0);
+        CHECK(matrix.HEIGHT == 0);
+        CHECK(matrix.GET(1, 1) == 9);
+    }
+}

@@ -1,4 +1,5 @@
 #include "foundation/container/poly_bool.hpp"
+#include "support/capture.hpp"
 
 #include <utility>
 
@@ -89,4 +90,16 @@ TEST_CASE("REPLACE and a move carry the count of flags") {
     const TPOLYBOOL c = std::move(a);
     CHECK(c.GET(10));
     CHECK(a.BITS == 0);
+}
+
+TEST_CASE("without memory a growing list of flags becomes empty and reads DEFAULT") {
+    CAPTURE console;
+    TPOLYBOOL list;
+    list.INIT();
+    list.PUT(3, true);
+    list.SIZE = NATMAX / 2; // stands for memory that no machine has
+    list.PUT(8 * list.MAXIMAL, true);
+    CHECK(console.TEXT() == "  Not enough Memory! Create empty field.\n");
+    CHECK(list.BITS == 0);
+    CHECK_FALSE(list.GET(3));
 }

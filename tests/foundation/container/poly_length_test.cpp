@@ -84,6 +84,8 @@ TEST_CASE("the reserve of a growing list shrinks as a share of its size") {
     CHECK(reserveAt(0x100001) == 0x100001 / 2);   // at most 10 MiB: a half
     CHECK(reserveAt(0xA00001) == 0xA00001 / 4);   // at most 102 MiB: a quarter
     CHECK(reserveAt(0x6600001) == 0x6600001 / 8); // at most 1 GiB: an eighth
+    // Behind 1 GiB there is no step of a sixteenth. The pages are never touched.
+    CHECK(reserveAt(0x40000001) == 0x40000001 / 32);
 }
 
 TEST_CASE("a list never reserves less than it did before") {

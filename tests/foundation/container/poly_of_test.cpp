@@ -252,3 +252,17 @@ TEST_CASE("LOOKNEAR probes four positions in their order") {
     CHECK(list.LOOKNEAR(0, 9, 1, 2, {2, 0, 0}) == 2);
     CHECK(list.LOOKNEAR(1, 1, 1, 1, {2, 0, 0}) == 0);
 }
+
+TEST_CASE("DERIVATION of a list that was never filled is empty") {
+    TPOLYREAL target = LIST<REAL>({2, 7});
+    TPOLYREAL().DERIVATION(target);
+    CHECK(target.LENGTH == 0);
+}
+
+TEST_CASE("a list that grows by zeros is not sorted by an axis any more") {
+    TPOLYCOMPLEX list = LIST<COMPLEX>({{5, 1}, {3, 1}});
+    list.SORTX();
+    list.NEWLENGTH(4); // the x components are 3, 5, 0, 0
+    CHECK_FALSE(list.SORTEDX);
+    CHECK(list.SEARCHX(0) == 3);
+}

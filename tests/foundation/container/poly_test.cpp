@@ -391,3 +391,13 @@ TEST_CASE("every class has its type code") {
     CHECK(chars.KIND == 241);
     CHECK(vector.KIND == 0);
 }
+
+TEST_CASE("REPLACE by a list that was never filled empties the list") {
+    const TPOLYREAL nothing;
+    TPOLYREAL list;
+    FILL_WITH(list, {1, 2, 3});
+    list.REPLACE(2, 1, nothing);
+    CHECK(HOLDS(list, {1, 3}));
+    list.REPLACE(nothing);
+    CHECK(list.LENGTH == 0);
+}

@@ -267,7 +267,28 @@ TEST_CASE("a name with wildcards loads all matching files in their order") {
     TCLOUD cloud;
     REQUIRE(cloud.LOAD("in/*.txt"));
     CHECK(DESCRIPTION(cloud) == "first:[0 <1, 0, 0, 0>]child-b.txt:[0 <2, 0, 0, 0>]");
+}
+
+TEST_CASE("a bracket in a name with wildcards stands for itself") {
+    const SCRATCH_FOLDER work;
+    WRITE_TEXT("a[1]b.txt", "1\n");
+    WRITE_TEXT("a1b.txt", "2\n");
+    CAPTURE console;
+    TCLOUD cloud;
+    REQUIRE(cloud.LOAD("a[1]*.txt"));
+    CHECK(DESCRIPTION(cloud) == "child-a[1]b.txt:[0 <1, 0, 0, 0>]");
+}
+
+TEST_CASE("a name with wildcards that fits no file is told") {
+    const SCRATCH_FOLDER work;
+    std::filesystem::create_directory("in");
+    CAPTURE console;
+    TCLOUD cloud;
     CHECK_FALSE(cloud.LOAD("in/*.none"));
+    CHECK(console.CONTAINS("  File (in/*.none) not found."));
+    CHECK_FALSE(cloud.LOAD("nowhere/*"));
+    CHECK(console.CONTAINS("  Path (nowhere/*) not found."));
+    CHECK(cloud.GETPOINTLENGTH() == 0);
 }
 
 TEST_CASE("a load of 0 percent loads nothing, of 100 percent everything") {

@@ -1,6 +1,7 @@
 #include "geometry/model/cloud_edit.hpp"
 
 #include <cmath>
+#include <limits>
 
 #include <doctest/doctest.h>
 
@@ -50,6 +51,25 @@ TEST_CASE("DISCRETE rounds all four values, DISCRETE_3D leaves t") {
     CHECK(other.GETPOINT(1) == HYPER{1, 1.5, -1, 0.7});
     DISCRETE(other, 0);
     CHECK(other.GETPOINT(1) == HYPER{1, 1.5, -1, 0.7});
+}
+
+TEST_CASE(
+    "DISCRETE keeps values beyond all digits of the step, and knows no step without a number") {
+    const REAL infinity = std::numeric_limits<REAL>::infinity();
+    TCLOUD cloud;
+    ADD_LINE(cloud, {{1e20, -1e300, 0.7, 4503599627370497}});
+    DISCRETE(cloud, 1);
+    CHECK(cloud.GETPOINT(1) == HYPER{1e20, -1e300, 1, 4503599627370497});
+    DISCRETE_3D(cloud, 1e-300);
+    CHECK(cloud.GETPOINT(1) == HYPER{1e20, -1e300, 1, 4503599627370497});
+    for (const REAL step : {infinity, std::numeric_limits<REAL>::quiet_NaN()}) {
+        DISCRETE(cloud, step);
+        DISCRETE_3D(cloud, step);
+        CHECK(cloud.GETPOINT(1) == HYPER{1e20, -1e300, 1, 4503599627370497});
+    }
+    cloud.PUTPOINT(1, {infinity, -infinity, 2.6, 0});
+    DISCRETE(cloud, 0.5);
+    CHECK(cloud.GETPOINT(1) == HYPER{infinity, -infinity, 2.5, 0});
 }
 
 TEST_CASE("CENTER moves the middle of the bounding box to zero, and leaves t") {

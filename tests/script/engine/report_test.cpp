@@ -85,8 +85,18 @@ TEST_CASE("an unknown lambda is told by its name") {
 TEST_CASE("a lambda that fails stops the line before its command") {
     SCRIPT_RUNNER runner;
     runner.engine.PUTLAMBDA("bad", [](TMACRO *e) { e->ERROR("no value"); });
-    CHECK(runner.RUN("a := 1\nprint bad\nprint no\n")
-              .starts_with("Error (no value) in line 2 (m)!\n"));
+    CHECK(runner.RUN("a := 1\nprint bad bad\nprint no\n") == "Error (no value) in line 2 (m)!\n");
+}
+
+TEST_CASE("a failed parameter starts no program and opens no file") {
+    const SCRATCH_FOLDER folder;
+    SCRATCH_FOLDER::WRITE_TEXT("kept", "old\n");
+    SCRIPT_RUNNER runner;
+    runner.engine.PUTLAMBDA("bad", [](TMACRO *e) { e->ERROR("no value"); });
+    CHECK(runner.RUN("execute touch made bad\n") == "Error (no value) in line 1 (m)!\n");
+    CHECK(SCRATCH_FOLDER::TEXT("made") == "no file");
+    runner.RUN("store kept bad\nnew\nend\n");
+    CHECK(SCRATCH_FOLDER::TEXT("kept") == "old\n");
 }
 
 TEST_CASE("a report in an included part names the part's own line and file") {
@@ -151,6 +161,40 @@ TEST_CASE("a second unknown name after the question stops the script") {
     CHECK(runner.RUN("xyz 5\nprint a\n") ==
           "Syntax error (xyz) in line 1 (m)!\nxyz 5\n" + QUESTION +
               "Syntax error (abc) in line 1 (m)! Unknown procedure!\n");
+}
+
+TEST_CASE("after the question only an exact name is found") {
+    const SCRATCH_FOLDER folder;
+    SCRIPT_RUNNER runner;
+    runner.engine.verbose = true;
+    const TYPED_LINES typed("prints a\n");
+    CHECK(runner.RUN("xyz 5\nprint a\n")
+              .ends_with("Syntax error (prints) in line 1 (m)! Unknown procedure!\n"));
+}
+
+TEST_CASE("halt as the answer ends the process with the status of its parameter") {
+    const SCRATCH_FOLDER folder;
+    SCRIPT_RUNNER runner;
+    runner.engine.verbose = true;
+    const TYPED_LINES typed("halt 4\n");
+    CHECK(runner.RUN("xyz 5\nprint a\n") ==
+          "Syntax error (xyz) in line 1 (m)!\nxyz 5\n" + QUESTION +
+              "In line 1 (m).\nScript & program halt. Terminate everything.\n");
+    CHECK(SCRIPT_RUNNER::exitStatus == 4);
+}
+
+TEST_CASE("break and stop as the answer end the script") {
+    const SCRATCH_FOLDER folder;
+    SCRIPT_RUNNER runner;
+    runner.engine.verbose = true;
+    {
+        const TYPED_LINES typed("break\n");
+        CHECK(runner.RUN("xyz 5\nprint a\n")
+                  .ends_with(">> In line 1 (m).\nScript break. Terminate everything.\n"));
+    }
+    const TYPED_LINES typed("stop\n");
+    CHECK(runner.RUN("xyz 5\nprint a\n").ends_with("In line 1 (m).\nScript stop.\n"));
+    CHECK(SCRIPT_RUNNER::exitStatus == -1);
 }
 
 TEST_CASE("an empty answer takes the line as it is on the disk now") {

@@ -24,6 +24,18 @@ TEST_CASE("a comment begins at a blank before two slashes") {
     CHECK(RUN_SCRIPT("print a // b\nprint a//b\n") == "a\na//b\n");
 }
 
+TEST_CASE("blanks in front of a comment belong to it") {
+    CHECK(RUN_SCRIPT("if 0\nthen break   // why\nprint a\n") ==
+          "In line 2 (m).\nScript break. Terminate everything.\n");
+    CHECK(RUN_SCRIPT("case 3\nof 3 \t // three\nprint three\nend\nprint behind\n") ==
+          "three\nbehind\n");
+}
+
+TEST_CASE("a byte order mark in front of a script is passed over") {
+    CHECK(RUN_SCRIPT("\xEF\xBB\xBFprint a\n") == "a\n");
+    CHECK(RUN_SCRIPT("\xEF\xBB\xBF!/bin/sh\nprint a\n") == "a\n");
+}
+
 TEST_CASE("a comment mark inside a quoted text ends the line too") {
     CHECK(RUN_SCRIPT("print \"a // b\"\n") == "a\n");
 }

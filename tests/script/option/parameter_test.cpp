@@ -208,10 +208,33 @@ TEST_CASE("a switch prints on or off") {
                                  "  +/-d : fourth = off\n");
 }
 
-TEST_CASE("a switch given alone is on, with =off it is off") {
-    CHECK(READ_LINE({"-first"}).options.GETBOOLEAN("first", false, "l"));
-    CHECK_FALSE(READ_LINE({"-first=off"}).options.GETBOOLEAN("first", false, "l"));
-    CHECK_FALSE(READ_LINE({"-first", "off"}).options.GETBOOLEAN("first", false, "l"));
+TEST_CASE("a switch with a minus alone is off, with a plus it is on") {
+    CHECK_FALSE(READ_LINE({"-x"}).options.GETBOOLEAN("x", true, "l"));
+    CHECK(READ_LINE({"+x"}).options.GETBOOLEAN("x", false, "l"));
+}
+
+TEST_CASE("-verbose alone silences the console") {
+    const READ_LINE line({"-verbose"});
+    CHECK_FALSE(VERBOSE);
+    VERBOSE = true;
+}
+
+TEST_CASE("a flag given alone is on, with =off it is off") {
+    CHECK(READ_LINE({"-first"}).options.GETFLAG("first", "l"));
+    CHECK(READ_LINE({"+first"}).options.GETFLAG("first", "l"));
+    CHECK(READ_LINE({"-first=on"}).options.GETFLAG("first", "l"));
+    CHECK_FALSE(READ_LINE({"-first=off"}).options.GETFLAG("first", "l"));
+    CHECK_FALSE(READ_LINE({"-first", "off"}).options.GETFLAG("first", "l"));
+    CHECK_FALSE(READ_LINE({"-second"}).options.GETFLAG("first", "l"));
+}
+
+TEST_CASE("a flag prints the line of a switch, in the help its default") {
+    READ_LINE line({"-first"});
+    CHECK(line.options.GETFLAG("first", "begin"));
+    CHECK(line.console.TEXT() == "  +/-first : begin = on\n");
+    READ_LINE help({"-first", "-h"});
+    CHECK_FALSE(help.options.GETFLAG("first", "begin"));
+    CHECK(help.console.TEXT() == "  +/-first : begin = off\n");
 }
 
 TEST_CASE("all named pairs can be walked, known or not") {
