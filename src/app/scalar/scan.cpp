@@ -8,6 +8,8 @@
 #include "orientation/scan/diagnostics.hpp"
 #include "script/workspace/setting_handlers.hpp"
 
+#include <algorithm>
+
 // The scan of directions, from the scalar field in use into the vector field in use.
 namespace morvane {
 namespace {
@@ -44,6 +46,9 @@ void SCALAR_DIFFUSION_DUMP(TMACRO *engine) {
     const VECTORNAT point = GETVECTORNAT(engine->GETPARAMETER_ERRORFREE(next));
     const VECTORNAT shift = GETVECTORNAT(engine->GETPARAMETER_ERRORFREE(next + 1));
     const T3D_SCALAR_ANALYSIS &field = SCALARS.CURRENT();
+    // A longer line only leaves the field.
+    if (radius < 1 || radius > std::max({field.SIZEX(), field.SIZEY(), field.SIZEZ()}))
+        return WRITELN("Wrong scan size (" + GETSTRING(radius) + ")!");
     const VECTORNAT voxel =
         SCAN_POINT(field, "Diffusion dump at: ", next <= count ? &point : nullptr,
                    next < count ? &shift : nullptr);

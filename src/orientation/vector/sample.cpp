@@ -10,10 +10,11 @@ namespace {
 constexpr NAT RADIUS = 4;
 using WEIGHTS = std::array<REAL, 2 * RADIUS>;
 
-// Lanczos kernel of radius 4 (Duchon 1979); x in voxels. Zero from |x| = 4 on.
+// Lanczos kernel of radius 4 (Duchon 1979); x in voxels. Zero from |x| = 4 on, and exactly zero at
+// other whole numbers, where the sine of a rounded multiple of pi is not.
 REAL LANCZOS4(REAL x) {
     if (x == 0) return 1;
-    if (std::abs(x) >= 4) return 0;
+    if (std::abs(x) >= 4 || x == std::trunc(x)) return 0;
     const REAL a = PI * x;
     return 4 * std::sin(a) * std::sin(a / 4) / (a * a);
 }

@@ -45,7 +45,8 @@ const VECTOR_FORMAT &VECTOR_FORMAT_OF(std::string_view extension) {
 bool T3D_VECTOR_ANALYSIS::LOAD(BYTE tag, const UTF16 &name) {
     if (name.EMPTY()) return false;
     const VECTOR_FORMAT &format = FormatOf(name);
-    if (format.reader) return format.reader(*this, tag, name);
+    const bool known = GETUTF8(GETEXTENSION(name)) == format.extension; // or only saved as text
+    if (known && format.reader) return format.reader(*this, tag, name);
     INIT(tag);
     WRITELN("Unknown vectorfield!");
     return false;

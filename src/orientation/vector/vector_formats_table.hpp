@@ -28,7 +28,8 @@ bool WRITE_VECTOR_AM(const T3D_VECTOR_ANALYSIS &field, const UTF16 &name);
 bool WRITE_VECTOR_LIMBERT(const T3D_VECTOR_ANALYSIS &field, const UTF16 &name);
 bool WRITE_VECTOR_TXT(const T3D_VECTOR_ANALYSIS &field, const UTF16 &name);
 
-// The row of an extension is the first that has it; the last row, text, takes every other one.
+// The row of an extension is the first that has it; the last row, text, takes every other one when
+// a field is saved. A file of no row's extension is not loaded.
 inline constexpr std::array<VECTOR_FORMAT, 8> VECTOR_FORMATS{{
     {"nii", READ_VECTOR_NII, WRITE_VECTOR_NII, "NIfTI-1, header and data in one file"},
     {"nii.gz", READ_VECTOR_NII_GZ, WRITE_VECTOR_NII_GZ, "NIfTI-1, compressed"},

@@ -26,7 +26,7 @@ bool NextNumber(std::string_view &line, REAL &value) {
     while (!line.empty()) {
         if (StartsNumber(line.front())) {
             const auto [end, code] = std::from_chars(line.data(), line.data() + line.size(), value);
-            // Out of range is a number too: the nearest one, which from_chars does not give.
+            // Out of range is a number too, read as 0.
             if (code == std::errc::result_out_of_range) value = 0;
             if (code != std::errc::invalid_argument) {
                 line.remove_prefix(static_cast<std::size_t>(end - line.data()));

@@ -88,6 +88,17 @@ TEST_CASE("the statistic of a block goes by the copy method") {
     CHECK(result(99) == result(2));
 }
 
+TEST_CASE("a block holds the voxels themselves, whatever stands beside it") {
+    CAPTURE console;
+    T3D_VECTOR_ANALYSIS source(VECTOR_FLOAT, 6, 1, 1), target(VECTOR_FLOAT);
+    source.PUT(1, 1, 1, VECTOR{1e18, -1e18, 0});
+    source.PUT(6, 1, 1, VECTOR{0, 0, 1e18});
+    for (NAT method = 0; method <= 7; ++method) {
+        CHECK(COPY(source, target, {0.5, 1, 1}, method));
+        CHECK(target.GET(2, 1, 1) == VZERO);
+    }
+}
+
 TEST_CASE("enlarging by blocks repeats each voxel") {
     CAPTURE console;
     T3D_VECTOR_ANALYSIS source(VECTOR_FLOAT, 2, 2, 2), target(VECTOR_FLOAT);

@@ -67,7 +67,24 @@ TEST_CASE("every format that is read and written brings every kind back equal") 
     }
 }
 
-TEST_CASE("an unknown extension is text, without the extension's own reader nothing is loaded") {
+TEST_CASE("an unknown extension is saved as text, and loaded by the reader of texts alone") {
+    CAPTURE console;
+    TEMPORARY_FOLDER folder;
+    T3D_VECTOR_ANALYSIS field(VECTOR_FLOAT, 3, 2, 2), back;
+    Fill(field);
+    for (const char *name : {"field.xyz", "field"}) {
+        const UTF16 file = folder.PATH(name);
+        CHECK(field.SAVE(file));
+        console.CLEAR();
+        CHECK_FALSE(back.LOAD(VECTOR_FLOAT, file));
+        CHECK(console.TEXT() == "Unknown vectorfield!\n");
+        CHECK_FALSE(back.ISNOTEMPTY());
+        CHECK(back.LOADTXT(VECTOR_FLOAT, file));
+        CHECK(Equal(field, back));
+    }
+}
+
+TEST_CASE("without the extension's own reader nothing is loaded") {
     CHECK(VECTOR_FORMAT_OF("xyz").extension == "txt");
     CHECK(VECTOR_FORMAT_OF("am").extension == "am");
     CAPTURE console;
