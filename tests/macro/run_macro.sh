@@ -15,7 +15,8 @@ set -u
 program=$1
 macro=$2
 name=$(basename "$macro" .macro)
-folder=$(cd "$(dirname "$macro")" && pwd)
+[ -f "$macro" ] || { echo "$macro: there is no such script"; exit 1; }
+folder=$(cd "$(dirname "$macro")" && pwd) || exit 1
 
 scratch=$(mktemp -d) || exit 1
 trap 'rm -rf "$scratch"' EXIT

@@ -10,8 +10,6 @@
 
 namespace morvane {
 namespace {
-constexpr NAT PATH_UNITS = 60; // of a path in a message
-
 FILE *Open(const std::string &path, const char *mode) { return std::fopen(path.c_str(), mode); }
 
 bool OpenForReading(FILE_READ &file, const UTF16 &name) {
@@ -31,7 +29,7 @@ bool ISNAMED(const UTF16 &name) {
 }
 
 void TELLFILE(const char *what, const UTF16 &path) {
-    WRITELN(what + GETUTF8(GETSHORTDIR(path, PATH_UNITS)) + ").");
+    WRITELN(what + GETUTF8(GETMESSAGEDIR(path)) + ").");
 }
 
 int OPENFILE(FILE_READ &file, const std::string &path) {
@@ -81,7 +79,7 @@ bool FILE_READ::ATEND() const {
 
 bool ASSIGNREAD(FILE_READ &file, const UTF16 &name) {
     if (!OpenForReading(file, name)) return false;
-    WRITELN("Read file (" + GETUTF8(GETSHORTDIR(FILENAMELOAD(name), PATH_UNITS)) + ") with size (" +
+    WRITELN("Read file (" + GETUTF8(GETMESSAGEDIR(FILENAMELOAD(name))) + ") with size (" +
             GETUTF8(GETPREFIX(static_cast<REAL>(file.SIZE()), 1, "B")) + ").");
     return true;
 }

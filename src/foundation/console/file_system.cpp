@@ -71,8 +71,8 @@ bool RENAMEDIR(const UTF16 &from, const UTF16 &to) {
         IOERROR(from);
         return false;
     }
-    WRITELN("Rename directory (" + GETUTF8(GETSHORTDIR(from, 60)) + " -> " +
-            GETUTF8(GETSHORTDIR(to, 60)) + ").");
+    WRITELN("Rename directory (" + GETUTF8(GETMESSAGEDIR(from)) + " -> " +
+            GETUTF8(GETMESSAGEDIR(to)) + ").");
     return true;
 }
 

@@ -84,7 +84,7 @@ bool ASSIGNGZREAD(GZ_READ &file, const UTF16 &name) {
     const std::string bytes = GETUTF8(path);
     SETSYSTEMRESULT(OpenStream(file.handle, bytes), bytes, false);
     if (IOERROR(name)) return false;
-    WRITELN("Read file (" + GETUTF8(GETSHORTDIR(path, 60)) + ") with size (" +
+    WRITELN("Read file (" + GETUTF8(GETMESSAGEDIR(path)) + ") with size (" +
             GETUTF8(GETPREFIX(static_cast<REAL>(FILESIZE(name)), 1, "B")) + ").");
     return true;
 }

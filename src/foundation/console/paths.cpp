@@ -124,6 +124,13 @@ UTF16 GETSHORTDIR(const UTF16 &path, NAT length) {
     return COPY(head + "..\\" + tail, 1, length);
 }
 
+bool FILESHORT = true;
+
+UTF16 GETMESSAGEDIR(const UTF16 &path) {
+    constexpr NAT PATH_UNITS = 60;
+    return FILESHORT ? GETSHORTDIR(path, PATH_UNITS) : GETREPLACE(path, '\\', '/');
+}
+
 UTF16 FILENAMELOAD(const UTF16 &name) {
     const UTF16 plain = Normalised(name);
     if (COPY(plain, 1, 5) == UTF16("../.."))

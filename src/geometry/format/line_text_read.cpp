@@ -2,9 +2,10 @@
 
 #include "foundation/base/number_text.hpp"
 #include "foundation/console/paths.hpp"
-#include "geometry/format/matching_files.hpp"
 #include "geometry/model/cloud.hpp"
+#include "script/file/file_list.hpp"
 #include "script/file/file_text.hpp"
+#include "script/file/name_mask.hpp"
 
 #include <algorithm>
 
@@ -112,12 +113,12 @@ bool LOAD_FILE(TCLOUD &cloud, const UTF16 &name, const LINE_SHARE *share) {
 
 bool LOAD_ALL(TCLOUD &cloud, const UTF16 &name, const LINE_SHARE *share) {
     if (!HAS_WILDCARD(name)) return LOAD_FILE(cloud, name, share);
-    const UTF16 directory = COPY(name, 1, name.LENGTH() - GETFILE(name).LENGTH());
-    const TPOLYCHARS files = MATCHING_FILES(name);
+    TFILELIST files;
+    files.INIT(name);
     if (files.LENGTH < 1) return LOAD_FILE(cloud, name, share); // tells that there is none
     bool isLoaded = true;
     for (NAT i = 1; i <= files.LENGTH; ++i)
-        isLoaded = LOAD_FILE(cloud, directory + files.GET(i).GET(), share) && isLoaded;
+        isLoaded = LOAD_FILE(cloud, files.GET(i).GET(), share) && isLoaded;
     return isLoaded;
 }
 } // namespace

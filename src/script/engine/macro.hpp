@@ -73,6 +73,14 @@ public:
     void USE_ALL();
     void USE_CORE();
     void USE_CLOCK();
+    void USE_LIST();
+    void USE_MATH();
+    void USE_IO();
+    void USE_BINARY();
+    void USE_TEXT();
+    void USE_XML();
+    void USE_TABLE();
+    void USE_DUMP();
 
     // Running. A script is loaded between two runs, not by a line of the one that runs.
     bool LOAD(const UTF16 &file);
@@ -164,6 +172,7 @@ public:
     UTF16 _REPLACE_CONSTANTS(const UTF16 &text) const { return constants.REPLACE(text); }
     // The remainder's parameters as they are written, after `@` replacement: names to declare.
     std::vector<UTF16> _WRITTENNAMES(const LINE_PART &part);
+    std::vector<TOKEN> _WRITTENTOKENS(const LINE_PART &part); // the same with their kinds
     UTF16 _JOINPARAMETERS(NAT first, const UTF16 &separator) const; // first..PARAMETERLENGTH
 
     // The line loop and what the handlers of the block keywords share.
@@ -174,6 +183,8 @@ public:
     bool _FUNCTION_CHECK_LISTE(const UTF16 &name);
     bool _LAMBDA_CHECK_LISTE(const UTF16 &name);
     void _INCLUDE(NAT line, const UTF16 &file); // the file's text in place of the line
+    // The same for the frame's line, which is then carried out anew; a failure stops the script.
+    void _IMPORT(BLOCK_FRAME &frame, const UTF16 &file);
     // A trace line: two blanks, the command, and each parameter with "|" behind it.
     enum class TRACE_COLOUR : BYTE { PROCEDURE, ASSIGNMENT };
     void _TRACE(const UTF16 &command, TRACE_COLOUR colour) const; // with the parameters
@@ -199,6 +210,8 @@ private:
     };
 
     void Run();
+    void Shift(NAT line, NAT count);
+    void TellNearest(const UTF16 &name, unsigned groups);
     bool EnterScope();
     bool SpendLine();
     NAT ProcessBlock(NAT line);
@@ -249,6 +262,7 @@ private:
     NAT currentLine = 0;
     NAT linesLeft = 0;
     NAT includes = 0;
+    std::vector<BLOCK_FRAME *> frames; // of the blocks in progress, the outermost first
     bool running = false;
     std::vector<PARAMETER_VALUE> parameters, rawParameters;
     bool rawShared = false; // the raw list is the evaluated one

@@ -20,6 +20,7 @@ bool TFILECOMMAND::LOADBYTES(std::string_view bytes, const UTF16 &name) {
 
 void TFILECOMMAND::DONE() {
     origins.clear();
+    insertions.clear();
     files.clear();
     TFILETEXT::DONE();
 }
@@ -70,11 +71,13 @@ std::vector<TFILECOMMAND::ORIGIN> TFILECOMMAND::OriginsWith(NAT line, const TFIL
     const auto known = std::find(files.begin(), files.end(), name);
     const NAT file = std::distance(files.begin(), known);
     if (known == files.end()) files.push_back(name);
+    insertions.push_back({file, origins[static_cast<std::size_t>(line - 1)].insertion});
+    const NAT insertion = static_cast<NAT>(insertions.size());
     std::vector<ORIGIN> result;
     result.reserve(origins.size() + static_cast<std::size_t>(included.LENGTH()));
     result.assign(origins.begin(), origins.begin() + line - 1);
     for (NAT i = 1; i <= std::max(included.LENGTH(), NAT{1}); ++i)
-        result.push_back({i, file, depth});
+        result.push_back({i, file, depth, insertion});
     result.insert(result.end(), origins.begin() + line, origins.end());
     return result;
 }
@@ -124,5 +127,19 @@ UTF16 TFILECOMMAND::GETREALFILE(NAT line) const {
     if (files.empty()) return {};
     if (line < 1 || line > LENGTH()) return files.front();
     return files[static_cast<std::size_t>(origins[static_cast<std::size_t>(line - 1)].file)];
+}
+
+std::vector<UTF16> TFILECOMMAND::GETCHAIN(NAT line) const {
+    std::vector<UTF16> chain;
+    if (line < 1 || line > LENGTH()) return chain;
+    NAT insertion = origins[static_cast<std::size_t>(line - 1)].insertion;
+    while (insertion > 0) {
+        const INSERTION &entry = insertions[static_cast<std::size_t>(insertion - 1)];
+        chain.push_back(files[static_cast<std::size_t>(entry.file)]);
+        insertion = entry.above;
+    }
+    chain.push_back(files.front());
+    std::reverse(chain.begin(), chain.end());
+    return chain;
 }
 } // namespace morvane

@@ -21,12 +21,21 @@ public:
     UTF16 GETREALFILE(NAT line) const; // its file's name as given; the script outside 1..LENGTH
     const std::vector<UTF16> &FILES() const { return files; } // the script first, then includes
 
+    // The files that led to a line: the script, the file that it includes, and so on to the line's
+    // own. Empty outside 1..LENGTH.
+    std::vector<UTF16> GETCHAIN(NAT line) const;
+
     static constexpr NAT DEEPEST_INCLUDE = 64;
     static constexpr NAT LARGEST_SCRIPT = NAT{1} << 30; // bytes after includes
 
 private:
     struct ORIGIN {
         NAT line, file, depth; // file: offset in `files`; depth: includes above this line
+        NAT insertion = 0;     // which insertion brought it, 0 for the script's own lines
+    };
+    // A file that stands in place of a line; `above` is the insertion that brought that line.
+    struct INSERTION {
+        NAT file, above;
     };
     bool StartOrigins(bool loaded, const UTF16 &name);
     bool Insert(NAT line, const TFILETEXT &included, const UTF16 &name);
@@ -35,6 +44,7 @@ private:
     bool ReplaceLine(NAT line, const TFILETEXT &included, std::vector<ORIGIN> newOrigins);
 
     std::vector<ORIGIN> origins;
+    std::vector<INSERTION> insertions; // counted from 1
     std::vector<UTF16> files;
 };
 } // namespace morvane

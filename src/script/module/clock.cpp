@@ -64,4 +64,6 @@ static_assert(ROWS_ARE_SOUND(CLOCK_ROWS));
 } // namespace
 
 const COMMAND_SET CLOCK_SET{"", CLOCK_ROWS};
+
+void TMACRO::USE_CLOCK() { REGISTER(CLOCK_SET); }
 } // namespace morvane

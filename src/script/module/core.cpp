@@ -146,4 +146,9 @@ static_assert(ROWS_ARE_SOUND(CORE_ROWS));
 } // namespace
 
 const COMMAND_SET CORE_SET{"", CORE_ROWS};
+
+void TMACRO::USE_CORE() {
+    REGISTER(CORE_SET);
+    REGISTER(RANDOM_SET);
+}
 } // namespace morvane

@@ -38,12 +38,15 @@ struct SCRIPT_RUN {
 };
 } // namespace
 
-TEST_CASE("modules register in the order core, random, clock") {
+TEST_CASE("modules register in their order, from core to dump") {
     const auto sets = MODULE_SETS();
-    REQUIRE(sets.size() == 3);
-    CHECK(sets[0]->rows.front().name == "debug");
-    CHECK(sets[1]->rows.front().name == "random.range");
-    CHECK(sets[2]->rows.front().name == "timer.start");
+    REQUIRE(sets.size() >= 3);
+    CHECK(sets[0] == &CORE_SET);
+    CHECK(sets[1] == &RANDOM_SET);
+    CHECK(sets[2] == &CLOCK_SET);
+    CHECK(sets[3] == &LIST_SET);
+    CHECK(sets[4] == &MATH_SET);
+    CHECK(sets.back() == &DUMP_SET);
 }
 
 TEST_CASE("print joins its parameters without a separator and ends the line") {
@@ -196,10 +199,11 @@ TEST_CASE("minmax limits a number to a range") {
     CHECK(run.TEXT("v4") == "4");
 }
 
-TEST_CASE("the usage example of every module row is a line that works") {
+// The other modules have such a test of their own, with what their examples need.
+TEST_CASE("the usage example of every core, random and clock row is a line that works") {
     const SCRATCH_FOLDER folder;
     folder.WRITE("sub.macro", "v1 := 1\n");
-    for (const COMMAND_SET *set : MODULE_SETS())
+    for (const COMMAND_SET *set : {&CORE_SET, &RANDOM_SET, &CLOCK_SET})
         for (const COMMAND_ROW &row : set->rows) {
             SCRIPT_RUN run;
             run.RUN(std::string(row.usage) + "\n");

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "foundation/base/number_text.hpp"
+
+#include <vector>
+
+namespace morvane {
+class TMACRO;
+
+// How many numbers a text holds for the number readers, counted up to `most`.
+NAT COUNT_NUMBERS(const UTF16 &text, NAT most);
+// All parameters of the line in progress, in order.
+std::vector<UTF16> ALL_PARAMETERS(TMACRO *engine);
+} // namespace morvane
