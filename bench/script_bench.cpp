@@ -53,6 +53,12 @@ void TestAndSkip(benchmark::State &state) {
 void CallProcedure(benchmark::State &state) {
     RunScript(state, "procedure p\na := parameter\nend\nfor 200000\np 1\nend\n", 800'004);
 }
+void CallFunction(benchmark::State &state) {
+    RunScript(state, "function f\nresult := parameter[1]\nend\nfor 200000\na := f 1\nend\n",
+              800'004);
+    state.counters["calls/s"] = benchmark::Counter(
+        200'000.0 * static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+}
 } // namespace
 
 BENCHMARK(AssignNumber)->Unit(benchmark::kMillisecond);
@@ -62,4 +68,5 @@ BENCHMARK(CallCommand)->Unit(benchmark::kMillisecond);
 BENCHMARK(ReplaceAt)->Unit(benchmark::kMillisecond);
 BENCHMARK(TestAndSkip)->Unit(benchmark::kMillisecond);
 BENCHMARK(CallProcedure)->Unit(benchmark::kMillisecond);
+BENCHMARK(CallFunction)->Unit(benchmark::kMillisecond);
 BENCHMARK_MAIN();

@@ -6,6 +6,12 @@ constexpr OPTION_ROW TOPIC(std::string_view text) { return {OPTION_KIND::TOPIC, 
 constexpr OPTION_ROW LEGEND(std::string_view text) {
     return {OPTION_KIND::LEGEND, text, "", "", ""};
 }
+constexpr OPTION_ROW LEGEND(std::string_view text, OPTION_NEED need) {
+    return {OPTION_KIND::LEGEND, text, "", "", "", 0, 0, need};
+}
+constexpr OPTION_ROW LIBRARY(std::string_view name, OPTION_NEED need) {
+    return {OPTION_KIND::LIBRARY, name, "", "", "", 0, 0, need};
+}
 constexpr OPTION_ROW STRING(std::string_view name, std::string_view standard,
                             std::string_view legend) {
     return {OPTION_KIND::STRING, name, standard, legend, name};
@@ -28,6 +34,8 @@ constexpr OPTION_ROW ROWS[] = {
     STRING("image.input", "image.ppm", "inputfile(s) (image)"),
     LEGEND("PNM (PBM, PGM, PPM)"),
     LEGEND("BMP (DIB)"),
+    LEGEND("ImageMagick® ready!", OPTION_NEED::IMAGEMAGICK),
+    LEGEND("It can read images in a variety of formats.", OPTION_NEED::IMAGEMAGICK),
     STRING("scalar.input", "scalar.nii.gz", "inputfile(s) (scalar field)"),
     LEGEND("HDR (IMG)           : Analyze 7.5"),
     LEGEND("NII                 : NIfTI"),
@@ -60,6 +68,8 @@ constexpr OPTION_ROW ROWS[] = {
     LEGEND("PRN        (1) : Calc Pointclouds"),
 
     TOPIC("Image options"),
+    LIBRARY("freeimage", OPTION_NEED::FREEIMAGE),
+    LIBRARY("imagemagick", OPTION_NEED::IMAGEMAGICK),
 
     TOPIC("Transformation Options"),
     NATURAL("mesh.split", "0", 0, 100, "how much biggest objects"),
@@ -71,11 +81,11 @@ constexpr OPTION_ROW ROWS[] = {
 
     TOPIC("Output Options"),
     STRING("image.type", "png", "output filetype (image)"),
-    LEGEND("PNM (PBM, PGM, PPM)"),
-    LEGEND("BMP (DIB)"),
-    LEGEND("TGA"),
-    LEGEND("TIF"),
-    LEGEND("PNG"),
+    LEGEND("PNM (PBM, PGM, PPM)", OPTION_NEED::NO_LIBRARY),
+    LEGEND("BMP (DIB)", OPTION_NEED::NO_LIBRARY),
+    LEGEND("TGA", OPTION_NEED::NO_LIBRARY),
+    LEGEND("TIF", OPTION_NEED::NO_LIBRARY),
+    LEGEND("PNG", OPTION_NEED::NO_LIBRARY),
     STRING("scalar.type", "nii.gz", "output filetype (scalar stack)"),
     LEGEND("HDR"),
     LEGEND("NII"),
@@ -110,10 +120,29 @@ constexpr OPTION_ROW ROWS[] = {
     LEGEND("nINC  (4) : Pov-Ray [vertex with normals]"),
 
     TOPIC("Run Options"),
+    {OPTION_KIND::STATUS, "status", "", "exit status 1 when the script fails", ""},
+    LEGEND("Without it the exit status is 0 and the console tells of the failure."),
     {OPTION_KIND::SEED, "seed", "", "random seed", "random.seed", 0, NATMAX},
     LEGEND("The same seed gives the same random numbers, whatever thread.max is."),
 };
 } // namespace
 
 const std::span<const OPTION_ROW> OPTIONS(ROWS);
+std::span<const IMAGE_LIBRARY> IMAGE_LIBRARIES;
+
+const IMAGE_LIBRARY *ANSWERING_LIBRARY(OPTION_NEED need) {
+    for (const IMAGE_LIBRARY &library : IMAGE_LIBRARIES)
+        if (library.need == need && library.answers()) return &library;
+    return nullptr;
+}
+
+bool OPTION_IS_THERE(const OPTION_ROW &row) {
+    switch (row.need) {
+    case OPTION_NEED::NOTHING: return true;
+    case OPTION_NEED::NO_LIBRARY:
+        return !ANSWERING_LIBRARY(OPTION_NEED::FREEIMAGE) &&
+               !ANSWERING_LIBRARY(OPTION_NEED::IMAGEMAGICK);
+    default: return ANSWERING_LIBRARY(row.need) != nullptr;
+    }
+}
 } // namespace morvane

@@ -1,8 +1,10 @@
 #include "app/program.hpp"
 
 #include "app/first_run.hpp"
+#include "app/first_words.hpp"
 #include "app/line/line_commands.hpp"
 #include "app/options_table.hpp"
+#include "app/program_words.hpp"
 #include "app/scalar/scalar_commands.hpp"
 #include "app/vector/vector_commands.hpp"
 #include "app/workspace_commands.hpp"
@@ -20,10 +22,14 @@
 
 namespace morvane {
 namespace {
-constexpr std::string_view PROGRAM_NAME = "Morvane";
-constexpr std::string_view MAKER = "The morvane developers";
-constexpr std::string_view ADDRESS = "https://morvane.invalid";
-constexpr NAT FIRST_YEAR = 2017;
+constexpr std::string_view STANDARD_MACRO = "morvane.macro";
+
+// What the options ask of the run itself.
+struct RUN_WISHES {
+    bool isFirst = false;  // write the reference instead of running a script
+    bool isStatus = false; // the exit status tells of a failed script
+    UTF16 macroFile;
+};
 
 std::vector<const COMMAND_SET *> JOINED_SETS() {
     const auto modules = MODULE_SETS();
@@ -78,18 +84,36 @@ UTF16 READ_OPTION(const TPARAMETER &options, const OPTION_ROW &row) {
     }
 }
 
-void READ_OPTIONS(TPARAMETER &options, TMACRO &engine) {
-    for (const OPTION_ROW &row : OPTIONS) {
-        if (row.kind == OPTION_KIND::TOPIC)
-            options.TOPIC(row.name);
-        else if (row.kind == OPTION_KIND::LEGEND)
-            options.LEGEND(row.name);
-        else
-            engine.PUTCONSTANT(row.constant, READ_OPTION(options, row));
+// An image library is in use unless its option switches it off.
+void READ_LIBRARY(const TPARAMETER &options, const OPTION_ROW &row) {
+    const IMAGE_LIBRARY *library = ANSWERING_LIBRARY(row.need);
+    if (library && !options.GETBOOLEAN(row.name, true, library->title())) library->switchOff();
+}
+
+void READ_ROW(TPARAMETER &options, TMACRO &engine, const OPTION_ROW &row, RUN_WISHES &wishes) {
+    switch (row.kind) {
+    case OPTION_KIND::TOPIC: return options.TOPIC(GETUTF16(row.name));
+    case OPTION_KIND::LEGEND: return options.LEGEND(GETUTF16(row.name));
+    case OPTION_KIND::LIBRARY: return READ_LIBRARY(options, row);
+    case OPTION_KIND::STATUS:
+        wishes.isStatus = options.GETBOOLEAN(row.name, false, row.legend);
+        return;
+    default: engine.PUTCONSTANT(row.constant, READ_OPTION(options, row));
     }
 }
 
+RUN_WISHES READ_OPTIONS(TPARAMETER &options, TMACRO &engine) {
+    RUN_WISHES wishes;
+    wishes.isFirst = options.GETFLAG("first", "Write first macro file example");
+    wishes.macroFile = WITHOUT_QUOTES(options.GETLASTSTRING("macro", STANDARD_MACRO, "macro file"));
+    for (const OPTION_ROW &row : OPTIONS)
+        if (OPTION_IS_THERE(row)) READ_ROW(options, engine, row, wishes);
+    options.EXAMPLE("morvane -image.input=*.ppm -image.type=png");
+    return wishes;
+}
+
 // Every option given, known or not, as "parameter." and its name.
+// Deliberate: of an option given twice the first counts, its parameter is the last.
 void PUT_PARAMETERS(const TPARAMETER &options, TMACRO &engine) {
     UTF16 name, value;
     for (NAT i = 1; options.GETPAIR(i, name, value); ++i)
@@ -98,18 +122,28 @@ void PUT_PARAMETERS(const TPARAMETER &options, TMACRO &engine) {
     if (!last.EMPTY()) engine.PUTCONSTANT("parameter.last", last);
 }
 
-// The run behind the options: commands, script, shutdown.
-void RUN_SCRIPT(TMACRO &engine, const UTF16 &macroFile, const PROGRAM_WORDS *firstRun) {
+// The run behind the options: commands, script, shutdown. False when a script was asked for and
+// could not be run to its end.
+bool RUN_SCRIPT(TMACRO &engine, const RUN_WISHES &wishes, const PROGRAM_WORDS &words) {
     engine.PUTCONSTANT("thread.max", GETSTRING(GETTHREADS()));
     engine.USE_ALL();
     for (const COMMAND_SET *set : COMMAND_SETS().subspan(MODULE_SETS().size()))
         engine.REGISTER(*set);
     engine.RESETNAMESPACE();
-    if (firstRun)
-        FIRST_RUN(*firstRun, COMMAND_SETS());
+    bool isLoaded = wishes.isFirst || wishes.macroFile == UTF16(STANDARD_MACRO);
+    if (!wishes.isFirst && FILEEXISTS(wishes.macroFile))
+        isLoaded = engine.LOAD(wishes.macroFile);
     else
-        engine.LOAD(macroFile);
+        FIRST_RUN(words, COMMAND_SETS());
     engine.SINGLERUN();
+    return isLoaded && engine.STATUS.EMPTY();
+}
+
+int END_PROGRAM(TMACRO &engine, int status) {
+    DONE_WORKSPACES();
+    engine.DONE();
+    CONSOLE_DONE();
+    return status;
 }
 } // namespace
 
@@ -120,27 +154,18 @@ std::span<const COMMAND_SET *const> COMMAND_SETS() {
 
 int RUN_PROGRAM(int argc, const char *const *argv) {
     CONSOLE_START();
+    if (const auto status = FIRST_WORDS({argv, argv + argc})) return *status;
     TMACRO engine;
     engine.INIT();
     INIT_WORKSPACES();
     TPARAMETER options(argc, argv);
-    options.INIT(PROGRAM_NAME, MAKER, FIRST_YEAR, ADDRESS);
+    if (options.INIT(PROGRAM_NAME, MAKER, FIRST_YEAR, ADDRESS)) return END_PROGRAM(engine, 0);
     options.USAGE("morvane [<options>]");
-    const bool isFirst = options.GETFLAG("first", "Write first macro file example");
-    const UTF16 macroFile =
-        WITHOUT_QUOTES(options.GETLASTSTRING("macro", "morvane.macro", "macro file"));
-    READ_OPTIONS(options, engine);
-    options.EXAMPLE("morvane -image.input=*.ppm -image.type=png");
+    const RUN_WISHES wishes = READ_OPTIONS(options, engine);
     PUT_PARAMETERS(options, engine);
     const PROGRAM_WORDS words{options.GETVERSION(), options.GETADDRESS(), options.GETMAKER()};
-    const bool isHelp = options.DONE();
-    if (!isHelp) {
-        const bool isRun = !isFirst && FILEEXISTS(macroFile);
-        RUN_SCRIPT(engine, macroFile, isRun ? nullptr : &words);
-    }
-    DONE_WORKSPACES();
-    engine.DONE();
-    CONSOLE_DONE();
-    return isHelp ? 1 : 0;
+    if (options.DONE()) return END_PROGRAM(engine, 1);
+    const bool isWell = RUN_SCRIPT(engine, wishes, words);
+    return END_PROGRAM(engine, wishes.isStatus && !isWell ? 1 : 0);
 }
 } // namespace morvane

@@ -6,7 +6,7 @@
 
 namespace morvane {
 // The one straight run of the program: options, commands, one script, shutdown. The exit status:
-// 1 when help was asked, else 0, also when the script failed.
+// 1 when help was asked, or with the option status when the script failed; else 0.
 int RUN_PROGRAM(int argc, const char *const *argv);
 
 // Every set of commands, in registration order.

@@ -127,7 +127,7 @@ constexpr COMMAND_ROW ROWS[] = {
     PROCEDURE("load.filter", SCALAR_LOAD_FILTER, AT_MOST(2), "[offset: number, factor: number]",
               "scalar.load.filter 0 1",
               "how loaded samples become voxels; none: scaled to the range"),
-    PROCEDURE("load", SCALAR_LOAD, AT_MOST(1), "field: file", "scalar.load scalar.input",
+    PROCEDURE("load", SCALAR_LOAD, AT_MOST(1), "[field: file]", "scalar.load scalar.input",
               "load a field; no name: nothing happens"),
     PROCEDURE("load.properties", SCALAR_LOAD_PROPERTIES, EXACTLY(1), "header: file",
               "scalar.load.properties scalar.input", "take offset and matrix of a file"),

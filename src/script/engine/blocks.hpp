@@ -8,6 +8,7 @@ namespace morvane {
 class TMACRO;
 struct BLOCK_FRAME;
 
+void RUN_IMPORT(TMACRO &engine, BLOCK_FRAME &frame);
 void RUN_IF(TMACRO &engine, BLOCK_FRAME &frame);          // all words that test their parameters
 void RUN_IF_FILESIZE(TMACRO &engine, BLOCK_FRAME &frame); // the words that only clear the flag
 void RUN_THEN(TMACRO &engine, BLOCK_FRAME &frame);

@@ -91,4 +91,10 @@ NAT COMMAND_TABLE::SEARCH(const UTF16 &name, unsigned groups) {
     if (index > 0) ++GET(index).useCount;
     return index;
 }
+
+std::string OTHER_KIND_TEXT(const std::string &name, unsigned groups) {
+    if (groups & FUNCTIONS) return name + " is a function: name := " + name;
+    if (groups & LAMBDAS) return name + " is a value: print " + name;
+    return name + " is a procedure: it stands first on its line";
+}
 } // namespace morvane

@@ -4,6 +4,7 @@
 #include "script/engine/names.hpp"
 
 #include <array>
+#include <string>
 
 namespace morvane {
 // The two forms of a handler; at most one of them is set.
@@ -21,6 +22,9 @@ inline constexpr BYTE KIND_MASK = 15, KIND_WITH_ENGINE = 16;
 // The groups that a look-up accepts, bit n for group n.
 inline constexpr unsigned PROCEDURES = 1U << KIND_BLOCK | 1U << KIND_PROCEDURE;
 inline constexpr unsigned FUNCTIONS = 1U << KIND_FUNCTION, LAMBDAS = 1U << KIND_LAMBDA;
+
+// How a name of these groups is used, as a sentence: "a.b is a function: name := a.b".
+std::string OTHER_KIND_TEXT(const std::string &name, unsigned groups);
 
 // One registered name. Built-in when a handler is set; script-defined when none is set and the
 // start line is not 0.

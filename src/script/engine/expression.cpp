@@ -163,4 +163,11 @@ UTF16 ASSIGNMENT_RESULT(TMACRO &engine, const UTF16 &operation) {
         if (row.word == word) return row.value(engine);
     return {};
 }
+
+std::vector<std::string_view> ASSIGNMENT_OPERATORS() {
+    std::vector<std::string_view> words;
+    for (const OPERATOR &row : OPERATORS)
+        words.push_back(row.word);
+    return words;
+}
 } // namespace morvane

@@ -172,7 +172,7 @@ public:
     UTF16 _REPLACE_CONSTANTS(const UTF16 &text) const { return constants.REPLACE(text); }
     // The remainder's parameters as they are written, after `@` replacement: names to declare.
     std::vector<UTF16> _WRITTENNAMES(const LINE_PART &part);
-    std::vector<TOKEN> _WRITTENTOKENS(const LINE_PART &part); // the same with their kinds
+    std::vector<TOKEN> _WRITTENTOKENS(const LINE_PART &part);       // the same with their kinds
     UTF16 _JOINPARAMETERS(NAT first, const UTF16 &separator) const; // first..PARAMETERLENGTH
 
     // The line loop and what the handlers of the block keywords share.

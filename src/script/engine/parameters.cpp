@@ -224,12 +224,16 @@ void TMACRO::_EVALUATE(const LINE_PART &part) {
     ReplaceAll(cache.tokens);
 }
 
-std::vector<UTF16> TMACRO::_WRITTENNAMES(const LINE_PART &part) {
+std::vector<TOKEN> TMACRO::_WRITTENTOKENS(const LINE_PART &part) {
     TOKENS tokens;
     CutTokens(part.atRest ? _REPLACE_AT_CONSTANTS(part.rest) : part.rest, false, tokens, false);
+    return std::move(tokens.cut);
+}
+
+std::vector<UTF16> TMACRO::_WRITTENNAMES(const LINE_PART &part) {
     std::vector<UTF16> written;
-    for (const TOKEN &token : tokens.cut)
-        written.push_back(token.text);
+    for (TOKEN &token : _WRITTENTOKENS(part))
+        written.push_back(std::move(token.text));
     return written;
 }
 

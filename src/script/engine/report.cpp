@@ -1,6 +1,8 @@
 #include "script/engine/macro.hpp"
 
 #include "foundation/console/console.hpp"
+#include "script/engine/keywords_table.hpp"
+#include "script/engine/nearest.hpp"
 
 #include <string>
 
@@ -12,6 +14,31 @@ std::string Coloured(std::string_view text) {
     return std::string(RED) + std::string(text) + std::string(PLAIN);
 }
 } // namespace
+
+// One line behind the report of an unknown name: what the name is when it was used as another kind,
+// else the nearest names of the kinds that were looked for.
+void TMACRO::TellNearest(const UTF16 &name, unsigned groups) {
+    unsigned others = 0;
+    std::vector<std::string> texts;
+    const std::string wanted = GETUTF8(LOWERCASE(name));
+    for (NAT i = 1; i <= commands.LENGTH(); ++i) {
+        const COMMAND_ENTRY &entry = commands.GET(i);
+        const unsigned group = 1U << entry.GROUP();
+        if ((groups & group) == 0 && !(entry.TEXT() == LOWERCASE(name))) continue;
+        if ((groups & group) == 0)
+            others |= group;
+        else
+            texts.push_back(GETUTF8(entry.TEXT()));
+    }
+    if (others != 0) return WRITELN("  " + OTHER_KIND_TEXT(wanted, others));
+    std::vector<std::string_view> known(texts.begin(), texts.end());
+    if (groups == PROCEDURES)
+        for (const KEYWORD &keyword : KEYWORDS())
+            known.push_back(keyword.word);
+    constexpr std::size_t MOST_NAMES = 3;
+    const std::string line = NEAREST_LINE(NEAREST_NAMES(wanted, known, MOST_NAMES));
+    if (!line.empty()) WRITELN(line);
+}
 
 UTF16 TMACRO::LINEPLACE() const {
     return UTF16(std::to_string(script.GETREALLINE(currentLine))) + " (" +
@@ -37,6 +64,7 @@ void TMACRO::SYNTAXERROR(const UTF16 &text) { Fail("Syntax error", text, "", tru
 
 void TMACRO::SYNTAX_PROCEDURE_ERROR(const UTF16 &text) {
     Fail("Syntax error", text, " Unknown procedure!", true);
+    TellNearest(text, PROCEDURES);
 }
 
 void TMACRO::SYNTAX_BLOCK_ERROR(const UTF16 &text) {
@@ -49,10 +77,13 @@ void TMACRO::SYNTAX_AT_ERROR(const UTF16 &text) {
 
 void TMACRO::SYNTAX_FUNCTION_ERROR(const UTF16 &text) {
     Fail("Syntax error", text, " Unknown function!", true);
+    const NAT sign = INVPOS(" := ", text);
+    TellNearest(sign > 0 ? COPY(text, sign + 4, text.LENGTH()) : text, FUNCTIONS);
 }
 
 void TMACRO::SYNTAX_LAMBDA_ERROR(const UTF16 &text) {
     Fail("Syntax error", text, " Unknown variable λ function!", true);
+    TellNearest(text, LAMBDAS);
 }
 
 void TMACRO::FailCount(std::string_view text, bool withPlace) {

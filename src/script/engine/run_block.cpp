@@ -19,6 +19,17 @@ struct ACTIVE_BLOCK {
     ACTIVE_BLOCK(const ACTIVE_BLOCK &) = delete;
     ACTIVE_BLOCK &operator=(const ACTIVE_BLOCK &) = delete;
 };
+
+// The frame of a block among those in progress.
+struct ACTIVE_FRAME {
+    ACTIVE_FRAME(std::vector<BLOCK_FRAME *> &list, BLOCK_FRAME &frame) : frames(list) {
+        frames.push_back(&frame);
+    }
+    ~ACTIVE_FRAME() { frames.pop_back(); }
+    ACTIVE_FRAME(const ACTIVE_FRAME &) = delete;
+    ACTIVE_FRAME &operator=(const ACTIVE_FRAME &) = delete;
+    std::vector<BLOCK_FRAME *> &frames;
+};
 } // namespace
 
 bool TMACRO::EnterScope() {
@@ -103,6 +114,7 @@ void TMACRO::EndBlock(const LINE_PART &part) {
 
 NAT TMACRO::ProcessBlock(NAT line) {
     BLOCK_FRAME frame;
+    const ACTIVE_FRAME active(frames, frame);
     frame.line = line;
     while (frame.line < script.LENGTH() && !stop) {
         if (!NextLine(frame)) continue;

@@ -18,6 +18,13 @@ UTF16 CUT_COMMENT(const UTF16 &line) {
     return text;
 }
 
+UTF16 CUT_COMMENT(const UTF16 &line, bool opens) {
+    if (!opens) return CUT_COMMENT(line);
+    UTF16 text = line;
+    if (text.GETCHAR(1) == BYTE_ORDER_MARK) DELETE(text, 1, 1);
+    return POS("!", text) == 1 ? UTF16() : CUT_COMMENT(text);
+}
+
 LINE_PART PREPARE_PART(const UTF16 &text) {
     LINE_PART part;
     const NAT blank = POS(" ", text);
@@ -30,11 +37,17 @@ LINE_PART PREPARE_PART(const UTF16 &text) {
     part.blankInRest = POS(" ", part.rest) > 0;
     // Deliberate: the test for an assignment knows nothing of quotes.
     part.assignment = part.rest.LENGTH() > 2 && POS("= ", part.rest, 2) > 0;
+    // A variable may bear the name of a keyword that names a file and nothing else.
+    if (part.keyword && part.keyword->role == KEYWORD_ROLE::IMPORT && part.assignment)
+        part.keyword = nullptr;
     return part;
 }
 
 const LINE_PART &LINE_PART::NEXT() const {
-    if (!cache.next) cache.next = std::make_unique<LINE_PART>(PREPARE_PART(rest));
+    if (!cache.next) {
+        cache.next = std::make_unique<LINE_PART>(PREPARE_PART(rest));
+        cache.next->behind = true;
+    }
     return *cache.next;
 }
 
@@ -43,10 +56,7 @@ void SCRIPT_LINES::Prepare(const TFILECOMMAND &script, NAT line) {
     if (offset >= lines.size()) lines.resize(static_cast<std::size_t>(script.LENGTH()));
     SLOT &slot = lines[offset];
     slot.ready = true;
-    UTF16 text = script.GET(line);
-    if (line == 1 && text.GETCHAR(1) == BYTE_ORDER_MARK) DELETE(text, 1, 1);
-    if (line == 1 && POS("!", text) == 1) return;
-    const UTF16 kept = CUT_COMMENT(text);
+    const UTF16 kept = CUT_COMMENT(script.GET(line), line == 1 || slot.opens);
     if (!kept.EMPTY()) slot.part = std::make_unique<LINE_PART>(PREPARE_PART(kept));
 }
 
@@ -55,7 +65,7 @@ void SCRIPT_LINES::CLEAR() {
     replaced.clear();
 }
 
-void SCRIPT_LINES::INSERTED(NAT line, NAT count) {
+void SCRIPT_LINES::INSERTED(NAT line, NAT count, bool opens) {
     const std::size_t offset = static_cast<std::size_t>(line - 1);
     if (offset >= lines.size() || count < 1) return;
     replaced.push_back(std::move(lines[offset].part));
@@ -63,5 +73,6 @@ void SCRIPT_LINES::INSERTED(NAT line, NAT count) {
     lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(offset + 1),
                  std::make_move_iterator(fresh.begin() + 1), std::make_move_iterator(fresh.end()));
     lines[offset] = SLOT{};
+    lines[offset].opens = opens;
 }
 } // namespace morvane

@@ -35,6 +35,7 @@ struct LINE_PART {
     bool atWord = false, atRest = false; // an "@" stands in it
     bool blankInRest = false;
     bool assignment = false; // the remainder has the shape of an assignment
+    bool behind = false;     // stands behind another word on its line
 
     // Kept between passes; valid while the version is that of the command table.
     struct CACHE {
@@ -56,6 +57,9 @@ struct LINE_PART {
 LINE_PART PREPARE_PART(const UTF16 &text);
 // The line without blanks and tabs at its ends and without its comment.
 UTF16 CUT_COMMENT(const UTF16 &line);
+// The same of a line that may open a script: a mark of the byte order is no part of it, and a first
+// line for the shell ("!...") is empty.
+UTF16 CUT_COMMENT(const UTF16 &line, bool opens);
 
 // The prepared lines of a script, made when control first reaches them.
 class SCRIPT_LINES {
@@ -68,12 +72,14 @@ public:
     }
     void CLEAR(); // another script was loaded
     // `count` lines stand where one stood. The old part stays alive: a block may be working on it.
-    void INSERTED(NAT line, NAT count);
+    // With `opens` the first of them is read as the first line of a script.
+    void INSERTED(NAT line, NAT count, bool opens = false);
 
 private:
     struct SLOT {
         std::unique_ptr<LINE_PART> part;
         bool ready = false;
+        bool opens = false; // the first line of an imported file
     };
     void Prepare(const TFILECOMMAND &script, NAT line);
 

@@ -23,10 +23,10 @@ bool IsNumber(const UTF16 &text, REAL &value) {
     VAL(text, value, code);
     return !text.EMPTY() && code == 0;
 }
+} // namespace
 
-// Fewest parameters of a directive; -1 for a character that is none.
-NAT MinimumOf(char directive) {
-    switch (directive) {
+NAT DIRECTIVE_MINIMUM(char directive) {
+    switch (directive >= 'A' && directive <= 'Z' ? static_cast<char>(directive + 32) : directive) {
     case '!':
     case '?': return 2;
     case 'c': return 3;
@@ -42,7 +42,6 @@ NAT MinimumOf(char directive) {
     default: return directive >= '0' && directive <= '9' ? 2 : -1;
     }
 }
-} // namespace
 
 STORE_BLOCK::STORE_BLOCK(TMACRO &macro) : engine(macro), separator(macro.outputSeparator) {}
 
@@ -65,7 +64,7 @@ void STORE_BLOCK::Directive(UTF16 text, NAT line) {
     char directive = CharacterAt(text, 3);
     if (directive == ' ') return;
     if (directive >= 'A' && directive <= 'Z') directive = static_cast<char>(directive + 32);
-    const NAT minimum = MinimumOf(directive);
+    const NAT minimum = DIRECTIVE_MINIMUM(directive);
     if (minimum < 0) return engine.SYNTAX_AT_ERROR(COPY(text, 1, 3));
     engine._GETPARAMETER_WITH_CONSTANTS(COPY(text, 4, text.LENGTH()));
     if (engine.stop) return;

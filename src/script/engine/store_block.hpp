@@ -7,6 +7,10 @@
 namespace morvane {
 class TMACRO;
 
+// Fewest parameters of a directive of stored text, by the character behind its "@@" in any case; -1
+// for a character that is none.
+NAT DIRECTIVE_MINIMUM(char directive);
+
 // The lines of a `store` or `append` block on their way into the output file: plain text, "@" lines
 // and "@@" directives.
 class STORE_BLOCK {

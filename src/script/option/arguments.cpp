@@ -1,19 +1,9 @@
-#include "script/option/parameter.hpp"
+#include "script/option/arguments.hpp"
 
-#include "foundation/base/number_text.hpp"
-#include "foundation/console/console.hpp"
-#include "foundation/thread/processor.hpp"
+#include "script/option/parameter.hpp"
 
 // How the process arguments become name and value pairs.
 namespace morvane {
-namespace {
-bool BEGINS_WITH(const UTF16 &text, char letter) {
-    return text.GETCHAR(1) == UTF16CHAR{static_cast<BYTE>(letter), 0};
-}
-
-UTF16 TRIM(const UTF16 &text) { return KILLLAST(KILLFIRST(text, ' '), ' '); }
-
-// A value in quotes without them; a doubled quote in it becomes one. Others stay as they are.
 UTF16 UNQUOTE(UTF16 text) {
     if (!BEGINS_WITH(text, '"') && !BEGINS_WITH(text, '\'')) return text;
     const UTF16CHAR quote = text.GETCHAR(1);
@@ -22,7 +12,6 @@ UTF16 UNQUOTE(UTF16 text) {
     REPLACE(text, UTF16(quote) + UTF16(quote), UTF16(quote));
     return text;
 }
-} // namespace
 
 void TPARAMETER::_READARGUMENTS() {
     std::string joined;
@@ -54,12 +43,5 @@ void TPARAMETER::_READTOKEN(const UTF16 &token, bool &isReplaceable) {
     } else {
         pairs.push_back({UTF16CHARS7(), UNQUOTE(token)});
     }
-}
-
-// The options that every program has, read behind the arguments and before its own.
-void TPARAMETER::_STANDARDOPTIONS() {
-    WRITELN("  : " + UTF16(GETSIMD()));
-    WRITELN("  : " + UTF16(GETCORES()));
-    VERBOSE = GETBOOLEAN("verbose", true, "verbose");
 }
 } // namespace morvane

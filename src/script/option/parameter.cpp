@@ -4,29 +4,23 @@
 #include "foundation/base/safe_arithmetic.hpp"
 #include "foundation/base/time.hpp"
 #include "foundation/console/console.hpp"
+#include "foundation/console/log.hpp"
 #include "foundation/console/paths.hpp"
+#include "foundation/thread/processor.hpp"
 #include "script/option/build.hpp"
-
-#include <bit>
+#include "script/option/build_words.hpp"
+#include "script/option/update.hpp"
 
 namespace morvane {
-namespace {
-UTF16 PLATFORM() {
-    const bool little = std::endian::native == std::endian::little;
-    return UTF16(BUILDSYSTEM) + " (" + BUILDPROCESSOR + (little ? " LE)" : " BE)");
-}
-} // namespace
-
-void TPARAMETER::INIT(const UTF16 &name, const UTF16 &author, NAT firstYear, const UTF16 &address) {
+bool TPARAMETER::INIT(const UTF16 &name, const UTF16 &author, NAT firstYear, const UTF16 &address) {
     UTF16 date(BUILDDATE);
     year = morvane::GETNAT(SPLIT(date, "/"));
     month = morvane::GETNAT(SPLIT(date, "/"));
     day = morvane::GETNAT(date);
     programName = name;
     makerAddress = address;
-    version = morvane::GETSTRING(year - firstYear) + "." + morvane::GETSTRING(month) + "." +
-              morvane::GETSTRING(day);
-    titleLine = name + UTF16(BUILDWORDS) + version.GET() + " for " + PLATFORM();
+    version = BUILDVERSION(firstYear);
+    titleLine = name + UTF16(BUILDWORDS) + version.GET() + " for " + BUILDPLATFORM();
     makerLine =
         morvane::GETSTRING(firstYear) + "-" + morvane::GETSTRING(GETDATE().year) + " " + author;
     programPath = UTF16(arguments.empty() ? std::string() : arguments.front());
@@ -39,7 +33,13 @@ void TPARAMETER::INIT(const UTF16 &name, const UTF16 &author, NAT firstYear, con
     WRITELN(programPath.GET());
     WRITELN(currentDirectory.GET());
     WRITELN();
-    if (arguments.size() > 1 && arguments[1] == "-strict") INTERACTION = false;
+    const std::string first = arguments.size() > 1 ? arguments[1] : std::string();
+    if (first == "-strict") INTERACTION = false;
+    const UTF16 file = GETFILE(programPath), download = address + BUILDFOLDER() + file;
+    WRITELN("  -update : Load a new version from " + download);
+    if (first != "-update") return false;
+    UPDATE(download, file);
+    return true;
 }
 
 void TPARAMETER::USAGE(const UTF16 &line) {
@@ -47,9 +47,34 @@ void TPARAMETER::USAGE(const UTF16 &line) {
     WRITELN("Usage: " + line);
     WRITELN();
     _READARGUMENTS();
+    _READHELPFLAGS();
+    _STANDARDOPTIONS(); // with help these show their defaults too, so that it is never silent
+}
+
+void TPARAMETER::_READHELPFLAGS() {
     isHelp = isWaiting = _ISASKED("?");
     if (_ISASKED("h") || _ISASKED("help") || _ISASKED("hilfe")) isHelp = true;
-    _STANDARDOPTIONS(); // with help these show their defaults too, so that it is never silent
+}
+
+// The options that every program has, read behind the arguments and before its own.
+void TPARAMETER::_STANDARDOPTIONS() {
+    const UTF16 file = GETSTRING("optionsfile", _OPTIONSFILE(), "#");
+    if (!isHelp) {
+        _READOPTIONSFILE(file);
+        _READHELPFLAGS(); // the file may ask for it too
+    }
+    _LOGOPTION();
+    WRITELN("  : " + UTF16(GETSIMD()));
+    WRITELN("  : " + UTF16(GETCORES()));
+    VERBOSE = GETBOOLEAN("verbose", true, "verbose");
+}
+
+void TPARAMETER::_LOGOPTION() {
+    if (!GETBOOLEAN("logfile", false, "log")) return CLOSELOGFILE();
+    OPENLOGFILE();
+    for (const UTF16CHARS7 *line : {&titleLine, &makerLine, &programPath, &currentDirectory})
+        WRITELOG(GETUTF8(line->GET()) + "\n");
+    WRITELOG("\n");
 }
 
 bool TPARAMETER::DONE() {
@@ -150,6 +175,13 @@ const TPARAMETER::PAIR *TPARAMETER::_SEARCH(const UTF16 &name) const {
     for (const PAIR &pair : pairs)
         if (!pair.name.EMPTY() && pair.name == wanted) return &pair;
     return nullptr;
+}
+
+bool TPARAMETER::_ISAMONG(const UTF16 &name, std::size_t count) const {
+    const UTF16CHARS7 wanted = name;
+    for (std::size_t i = 0; i < count; ++i)
+        if (pairs[i].name == wanted) return true;
+    return false;
 }
 
 bool TPARAMETER::_ISASKED(const UTF16 &name) const {

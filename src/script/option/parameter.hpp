@@ -18,8 +18,12 @@ public:
     TPARAMETER(int argc, const char *const *argv) : arguments(argv, argv + argc) {}
 
     // Banner, paths, and the first argument "-strict", which ends interaction for the whole run.
-    void INIT(const UTF16 &name, const UTF16 &author, NAT firstYear, const UTF16 &address);
-    // The usage line, the arguments, the options of every program, and the help flags.
+    // True when the first argument was "-update": the fetch is over, and the process has to end
+    // with status 0.
+    [[nodiscard]] bool INIT(const UTF16 &name, const UTF16 &author, NAT firstYear,
+                            const UTF16 &address);
+    // The usage line, the arguments, the help flags, the options of every program and the options
+    // file, whose pairs stand behind the arguments.
     void USAGE(const UTF16 &line);
     // Frees the lists; true when help was asked, and the process has to end with status 1.
     [[nodiscard]] bool DONE();
@@ -54,7 +58,12 @@ private:
 
     void _READARGUMENTS();
     void _READTOKEN(const UTF16 &token, bool &isReplaceable);
+    void _READHELPFLAGS();
     void _STANDARDOPTIONS();
+    void _LOGOPTION();
+    UTF16 _OPTIONSFILE() const; // the name that is looked for when none is given
+    void _READOPTIONSFILE(const UTF16 &file);
+    bool _ISAMONG(const UTF16 &name, std::size_t count) const; // among the first pairs
     const PAIR *_SEARCH(const UTF16 &name) const; // the first of the exact name, or null
     bool _ISASKED(const UTF16 &name) const;       // given with a value
     void _PRINTLINE(std::string_view head, const UTF16 &name, const UTF16 &legend,

@@ -62,7 +62,7 @@ TEST_CASE("inside with every procedure gets the prefix, also one that is known w
     CHECK(runner.RUN("with image\nshow\nwith raw\nshow\nend\nshow\nend\nprint a\n") ==
           "shown\nraw\nshown\na\n");
     CHECK(runner.RUN("with image\nprint a\nend\n") ==
-          "Syntax error (image.print) in line 2 (m)! Unknown procedure!\n");
+          "Syntax error (image.print) in line 2 (m)! Unknown procedure!\n  Nearest: print\n");
 }
 
 TEST_CASE("inside with a function is tried bare and then with the prefix") {

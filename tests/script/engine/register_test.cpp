@@ -29,7 +29,8 @@ TEST_CASE("a command gets the namespace in front, in lower case") {
     runner.engine.RESETNAMESPACE();
     runner.engine.PUTPROCEDURE("bare", PLAIN);
     CHECK(runner.RUN("image.crop\nbare\ncrop\n") ==
-          "plain\nplain\nSyntax error (crop) in line 3 (m)! Unknown procedure!\n");
+          "plain\nplain\nSyntax error (crop) in line 3 (m)! Unknown procedure!\n"
+          "  Nearest: image.crop\n");
 }
 
 TEST_CASE("a blank inside a command's name becomes a point after a warning") {
@@ -151,7 +152,8 @@ TEST_CASE("number forms are tried in their order") {
 TEST_CASE("a word without any number form is unknown") {
     SCRIPT_RUNNER runner;
     runner.engine.PUTPROCEDURE("abcd", PLAIN);
-    CHECK(runner.RUN("abcdf\n") == "Syntax error (abcdf) in line 1 (m)! Unknown procedure!\n");
+    CHECK(runner.RUN("abcdf\n") ==
+          "Syntax error (abcdf) in line 1 (m)! Unknown procedure!\n  Nearest: abcd\n");
 }
 
 TEST_CASE("an exact name wins over a number form") {

@@ -169,7 +169,8 @@ TEST_CASE("after the question only an exact name is found") {
     runner.engine.verbose = true;
     const TYPED_LINES typed("prints a\n");
     CHECK(runner.RUN("xyz 5\nprint a\n")
-              .ends_with("Syntax error (prints) in line 1 (m)! Unknown procedure!\n"));
+              .ends_with("Syntax error (prints) in line 1 (m)! Unknown procedure!\n"
+                         "  Nearest: print\n"));
 }
 
 TEST_CASE("halt as the answer ends the process with the status of its parameter") {

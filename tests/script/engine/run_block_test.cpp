@@ -46,7 +46,7 @@ TEST_CASE("blanks and tabs around a line and blanks behind its command do not co
 
 TEST_CASE("a tab does not end the command word") {
     CHECK(RUN_SCRIPT("print\ta\n") ==
-          "Syntax error (print\ta) in line 1 (m)! Unknown procedure!\n");
+          "Syntax error (print\ta) in line 1 (m)! Unknown procedure!\n  Nearest: print\n");
 }
 
 TEST_CASE("commands are compared in lower case") { CHECK(RUN_SCRIPT("PRINT Ab\n") == "Ab\n"); }

@@ -12,6 +12,12 @@
 using namespace morvane;
 
 namespace {
+#if defined(__linux__) && defined(__x86_64__)
+const std::string FOLDER = "x86_64-linux";
+#elif defined(__linux__) && defined(__aarch64__)
+const std::string FOLDER = "aarch64-linux";
+#endif
+
 // A command line that was read, and the console's text since then.
 struct READ_LINE {
     CAPTURE console;
@@ -37,17 +43,18 @@ private:
 TEST_CASE("the version is made of the years since the first, the month and the day") {
     CAPTURE console;
     TPARAMETER options(std::vector<std::string>{"/bin/morvane"});
-    options.INIT("Morvane", "Author", 2017, "https://maker.invalid");
+    CHECK_FALSE(options.INIT("Morvane", "Author", 2017, "https://maker.invalid"));
     CHECK(GETUTF8(options.GETVERSION()) == "9.4.8");
 }
 
 TEST_CASE("the banner holds title, maker, program path and current directory") {
     CAPTURE console;
     TPARAMETER options(std::vector<std::string>{"/bin/morvane"});
-    options.INIT("Morvane", "Author", 2017, "https://maker.invalid");
+    CHECK_FALSE(options.INIT("Morvane", "Author", 2017, "https://maker.invalid"));
     const std::string year = GETUTF8(GETSTRING(GETDATE().year));
     const std::string tail =
-        "\n2017-" + year + " Author\n\n/bin/morvane\n" + GETUTF8(GETCURRENTDIR()) + "\n\n";
+        "\n2017-" + year + " Author\n\n/bin/morvane\n" + GETUTF8(GETCURRENTDIR()) + "\n\n" +
+        "  -update : Load a new version from https://maker.invalid/" + FOLDER + "/morvane\n";
     CHECK(console.TEXT().starts_with("\nMorvane - "));
     CHECK(console.CONTAINS("ersion 9.4.8 for "));
     CHECK(console.TEXT().ends_with(tail));
@@ -57,7 +64,7 @@ TEST_CASE("the banner holds title, maker, program path and current directory") {
 TEST_CASE("the title names the build at hand") {
     CAPTURE console;
     TPARAMETER options(std::vector<std::string>{"/bin/morvane"});
-    options.INIT("Morvane", "Author", 2017, "https://maker.invalid");
+    CHECK_FALSE(options.INIT("Morvane", "Author", 2017, "https://maker.invalid"));
     CHECK(console.CONTAINS(" 9.4.8 for Linux (x86_64 LE)\n"));
 }
 #endif
@@ -66,7 +73,7 @@ TEST_CASE("-strict as the first argument ends interaction") {
     CAPTURE console;
     INTERACTION = true;
     TPARAMETER options(std::vector<std::string>{"/bin/morvane", "-strict"});
-    options.INIT("Morvane", "Author", 2017, "https://maker.invalid");
+    CHECK_FALSE(options.INIT("Morvane", "Author", 2017, "https://maker.invalid"));
     CHECK_FALSE(INTERACTION);
 }
 
@@ -74,16 +81,20 @@ TEST_CASE("-strict counts only as the first argument") {
     CAPTURE console;
     INTERACTION = true;
     TPARAMETER options(std::vector<std::string>{"/bin/morvane", "-x=1", "-strict"});
-    options.INIT("Morvane", "Author", 2017, "https://maker.invalid");
+    CHECK_FALSE(options.INIT("Morvane", "Author", 2017, "https://maker.invalid"));
     CHECK(INTERACTION);
 }
 
-TEST_CASE("the usage line stands between empty lines, the processor and -verbose behind it") {
+TEST_CASE("behind the usage line stand options file, log, processor and -verbose, in this order") {
     CAPTURE console;
     TPARAMETER options(std::vector<std::string>{"/bin/morvane"});
+    CHECK_FALSE(options.INIT("Morvane", "Author", 2017, "https://maker.invalid"));
+    console.CLEAR();
     options.USAGE("morvane [<options>]");
-    CHECK(console.TEXT() == "\nUsage: morvane [<options>]\n\n  : " + GETSIMD() +
-                                "\n  : " + GETCORES() + "\n  +/-verbose : verbose = on\n");
+    CHECK(console.TEXT() == "\nUsage: morvane [<options>]\n\n  -optionsfile : # = morvane.ini\n"
+                            "  +/-logfile : log = off\n  : " +
+                                GETSIMD() + "\n  : " + GETCORES() +
+                                "\n  +/-verbose : verbose = on\n");
 }
 
 TEST_CASE("-verbose=off silences the console") {
