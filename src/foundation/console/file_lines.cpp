@@ -2,6 +2,8 @@
 
 namespace morvane {
 namespace {
+constexpr std::size_t LONGEST_WORD = 65536; // bytes; what a packed file unpacks to has no bound
+
 int NextByte(FILE_READ &file) { return file.OPEN() ? ::getc_unlocked(file.HANDLE()) : EOF; }
 
 int NextByte(GZ_READ &file) {
@@ -19,6 +21,7 @@ template <class SOURCE> UTF16 NextWord(SOURCE &file) {
         const bool comment = byte == '#';
         if (!comment && !IsSpace(byte)) {
             word.push_back(static_cast<char>(byte));
+            if (word.size() == LONGEST_WORD) break;
             continue;
         }
         while (comment && !IsLineEnd(byte))

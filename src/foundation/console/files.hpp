@@ -71,6 +71,7 @@ public:
 private:
     struct STATE;
     friend bool ASSIGNWRITE(FILE_WRITE &file, const UTF16 &name);
+    friend bool OPENSILENT(FILE_WRITE &file, const UTF16 &name);
     friend bool ASSIGNGZWRITE(FILE_WRITE &file, const UTF16 &name, int level);
     static bool START(FILE_WRITE &file, const UTF16 &name);
     std::unique_ptr<STATE> state;
@@ -102,6 +103,7 @@ bool ASSIGNREADTEXT(FILE_READ &file, const UTF16 &name); // "Read file (path)."
 bool OPENSILENT(FILE_READ &file, const UTF16 &name); // the same without any line, not even an error
 bool ASSIGNGZREAD(GZ_READ &file, const UTF16 &name);
 bool ASSIGNWRITE(FILE_WRITE &file, const UTF16 &name); // "Write file (path)."
+bool OPENSILENT(FILE_WRITE &file, const UTF16 &name);  // the same, telling failures alone
 bool ASSIGNGZWRITE(FILE_WRITE &file, const UTF16 &name, int level = 6);
 bool ASSIGNWRITE(FILE_TEXT &file, const UTF16 &name);  // direct, truncates: a script's output file
 bool ASSIGNAPPEND(FILE_TEXT &file, const UTF16 &name); // "Append file (path)."

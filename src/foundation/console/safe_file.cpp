@@ -217,6 +217,8 @@ void FILE_WRITE::ABANDON() {
     IOERROR(ended->name);
 }
 
+bool OPENSILENT(FILE_WRITE &file, const UTF16 &name) { return FILE_WRITE::START(file, name); }
+
 bool ASSIGNWRITE(FILE_WRITE &file, const UTF16 &name) {
     if (!FILE_WRITE::START(file, name)) return false;
     TELLFILE("Write file (", FILENAMESAVE(name));

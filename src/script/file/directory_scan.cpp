@@ -19,11 +19,12 @@ struct CLOSE_DIRECTORY {
 };
 
 // A name that comes back to the same bytes when a command uses it. A text that begins with ".."
-// would be read as the directory above.
+// would be read as the directory above, one that begins with "../.." as the one above that.
 bool IsHeld(const UTF16 &prefix, const UTF16 &name, const std::string &bytes) {
     if (prefix.LENGTH() + name.LENGTH() > UTF16CHARS7::CAPACITY) return false;
     if (bytes.find('\\') != std::string::npos) return false;
-    if (prefix.EMPTY() && bytes.starts_with("..")) return false;
+    const bool isAbove = prefix.EMPTY() || prefix == UTF16("../");
+    if (isAbove && bytes.starts_with("..")) return false;
     return GETUTF8(name) == bytes;
 }
 

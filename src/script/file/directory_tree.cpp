@@ -165,8 +165,23 @@ bool CopyLink(const UTF16 &from, const UTF16 &to) {
     return true;
 }
 
-bool CopyEntries(const UTF16 &from, const UTF16 &to, NAT &leftOut) {
-    std::vector<DIRECTORY_ENTRY> entries = DIRECTORY_ENTRIES(from + "/", leftOut);
+// A copied directory; what it holds stays as it is.
+struct SOURCE_TREE {
+    std::string canonical;
+    NAT leftOut = 0; // names that a script cannot hold
+};
+
+// Where the target stands above the source, or links lead into it, a copied entry could fall upon
+// one of the source that is still to be copied.
+bool IsInside(const SOURCE_TREE &source, const UTF16 &to) {
+    if (!LiesIn(Canonical(GETUTF8(to)), source.canonical)) return false;
+    WRITELN("  Target lies inside the source (" + Shown(to) + ").");
+    return true;
+}
+
+bool CopyEntries(const UTF16 &from, const UTF16 &to, SOURCE_TREE &tree) {
+    if (IsInside(tree, to)) return false;
+    std::vector<DIRECTORY_ENTRY> entries = DIRECTORY_ENTRIES(from + "/", tree.leftOut);
     std::sort(entries.begin(), entries.end(),
               [](const auto &a, const auto &b) { return GETUTF8(a.name) < GETUTF8(b.name); });
     bool isCopied = HARDMKDIR(to);
@@ -174,7 +189,7 @@ bool CopyEntries(const UTF16 &from, const UTF16 &to, NAT &leftOut) {
         if (!DIRECTORYEXISTS(to)) return false; // told
         const UTF16 source = from + "/" + entry.name, target = to + "/" + entry.name;
         const bool done = entry.isLink        ? CopyLink(source, target)
-                          : entry.isDirectory ? CopyEntries(source, target, leftOut)
+                          : entry.isDirectory ? CopyEntries(source, target, tree)
                                               : COPY_FILE(source, target, COPY_METHOD::BYTES);
         isCopied = done && isCopied;
     }
@@ -192,14 +207,10 @@ bool COPY_TREE(const UTF16 &from, const UTF16 &to) {
         WRITELN("Empty filename!");
         return false;
     }
-    if (LiesIn(Canonical(GETUTF8(target)), Canonical(GETUTF8(source)))) {
-        WRITELN("  Target lies inside the source (" + Shown(to) + ").");
-        return false;
-    }
-    NAT leftOut = 0;
-    const bool isCopied = CopyEntries(source, target, leftOut);
-    TELL_LEFT_OUT(leftOut);
-    return isCopied && leftOut == 0;
+    SOURCE_TREE tree{Canonical(GETUTF8(source))};
+    const bool isCopied = CopyEntries(source, target, tree);
+    TELL_LEFT_OUT(tree.leftOut);
+    return isCopied && tree.leftOut == 0;
 }
 
 bool RENAME_DIRECTORY(const UTF16 &from, const UTF16 &to) {

@@ -1,6 +1,7 @@
 #include "script/file/file_copy.hpp"
 
 #include "foundation/console/console.hpp"
+#include "foundation/console/io_error.hpp"
 #include "foundation/console/paths.hpp"
 #include "script/file/directory_scan.hpp"
 #include "script/file/file_stream.hpp"
@@ -12,18 +13,13 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <unordered_map>
 
 namespace morvane {
 namespace {
 constexpr mode_t EXECUTABLE = 0111;
 
 std::string Shown(const UTF16 &path) { return GETUTF8(GETMESSAGEDIR(path)); }
-
-bool RefuseSame(const UTF16 &source, const UTF16 &target) {
-    if (!IS_SAME_FILE(source, target)) return false;
-    WRITELN("  Source and target are the same file (" + Shown(source) + ").");
-    return true;
-}
 
 UTF16 Inside(const UTF16 &directory, const UTF16 &file) {
     const bool isEnded = directory.EMPTY() || directory.IS(directory.LENGTH(), '/');
@@ -40,9 +36,27 @@ bool IsName(const UTF16 &mask) {
     return !HAS_WILDCARD(mask) || KIND_OF_PATH(mask) == PATH_KIND::FILE;
 }
 
+// A name comes back whether it is there or not.
+std::vector<UTF16> FilesOrName(const UTF16 &mask) {
+    return IsName(mask) ? std::vector<UTF16>{mask} : FILES_OF(mask);
+}
+
 bool TellNothing(const UTF16 &mask) {
     WRITELN("  No file fits (" + Shown(mask) + ").");
     return false;
+}
+
+bool TellSecond(const UTF16 &file) {
+    WRITELN("  A second file of this name is left where it is (" + Shown(file) + ").");
+    return false;
+}
+
+// Tells a target that may not be written. Renaming would replace it all the same.
+bool IsProtected(const UTF16 &target) {
+    const std::string path = SAVEPATH(target);
+    if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 || errno == ENOENT) return false;
+    SETSYSTEMRESULT(errno, path, true);
+    return IOERROR(target);
 }
 
 // Whoever may read the copy of a program may run it.
@@ -70,6 +84,32 @@ UTF16 NameOfCopy(const UTF16 &source, COPY_METHOD method) {
     if (method == COPY_METHOD::PACK && !IS_GZ_NAME(file)) return file + ".gz";
     if (method == COPY_METHOD::UNPACK && IS_GZ_NAME(file)) return GETDIRFILENAME(file);
     return file;
+}
+
+// A file on its way into a directory.
+struct TRANSFER {
+    UTF16 source, target;
+};
+
+// The files of the masks and the names that they get in the directory. `isWhole` becomes false when
+// a mask fits nothing, or a name is taken by another file of the masks.
+std::vector<TRANSFER> TransfersInto(const UTF16 &directory, const std::vector<UTF16> &masks,
+                                    COPY_METHOD method, bool &isWhole) {
+    std::vector<TRANSFER> transfers;
+    std::unordered_map<std::string, UTF16> taken; // target and its source
+    for (const UTF16 &mask : masks) {
+        const std::vector<UTF16> files = FilesOrName(mask);
+        if (files.empty()) isWhole = TellNothing(mask);
+        for (const UTF16 &file : files) {
+            const UTF16 target = Inside(directory, NameOfCopy(file, method));
+            const auto [place, isFree] = taken.try_emplace(GETUTF8(target), file);
+            if (isFree)
+                transfers.push_back({file, target});
+            else if (place->second != file)
+                isWhole = TellSecond(file);
+        }
+    }
+    return transfers;
 }
 
 // Permissions and times, where the system allows it.
@@ -118,7 +158,7 @@ std::vector<UTF16> FILES_OF(const UTF16 &mask) {
 }
 
 bool COPY_FILE(const UTF16 &source, const UTF16 &target, COPY_METHOD method) {
-    if (!IS_REGULAR_FILE(source) || RefuseSame(source, target)) return false;
+    if (!IS_REGULAR_FILE(source) || REFUSE_SAME(source, target)) return false;
     if (!HARDMKDIR(GETDIR(FILENAMESAVE(target)))) return false;
     const bool isNew = !FILEEXISTS(target);
     FILE_WRITE file;
@@ -131,22 +171,19 @@ bool COPY_FILE(const UTF16 &source, const UTF16 &target, COPY_METHOD method) {
 }
 
 bool COPY_FILES(const UTF16 &mask, const UTF16 &target, COPY_METHOD method) {
-    if (!IsName(mask) || IsFolder(target)) return COPY_FILES_TO(target, mask, method);
+    if (!IsName(mask) || IsFolder(target)) return COPY_FILES_TO(target, {mask}, method);
     return COPY_FILE(mask, target, method);
 }
 
-bool COPY_FILES_TO(const UTF16 &directory, const UTF16 &mask, COPY_METHOD method) {
-    if (IsName(mask)) return COPY_FILE(mask, Inside(directory, NameOfCopy(mask, method)), method);
-    const std::vector<UTF16> files = FILES_OF(mask);
-    if (files.empty()) return TellNothing(mask);
+bool COPY_FILES_TO(const UTF16 &directory, const std::vector<UTF16> &masks, COPY_METHOD method) {
     bool isCopied = true;
-    for (const UTF16 &file : files)
-        isCopied = COPY_FILE(file, Inside(directory, NameOfCopy(file, method)), method) && isCopied;
+    for (const TRANSFER &file : TransfersInto(directory, masks, method, isCopied))
+        isCopied = COPY_FILE(file.source, file.target, method) && isCopied;
     return isCopied;
 }
 
 bool MOVE_FILE(const UTF16 &source, const UTF16 &target) {
-    if (!IsMovable(source) || RefuseSame(source, target)) return false;
+    if (!IsMovable(source) || REFUSE_SAME(source, target) || IsProtected(target)) return false;
     if (!HARDMKDIR(GETDIR(FILENAMESAVE(target)))) return false;
     // A move between file systems is no failure yet, so the call that tells one isn't used.
     if (::rename(LOADPATH(source).c_str(), SAVEPATH(target).c_str()) != 0)
@@ -162,31 +199,32 @@ bool MOVE_BY_COPY(const UTF16 &source, const UTF16 &target) {
 }
 
 bool MOVE_FILES(const UTF16 &mask, const UTF16 &target) {
-    if (!IsName(mask) || IsFolder(target)) return MOVE_FILES_TO(target, mask);
+    if (!IsName(mask) || IsFolder(target)) return MOVE_FILES_TO(target, {mask});
     return MOVE_FILE(mask, target);
 }
 
-bool MOVE_FILES_TO(const UTF16 &directory, const UTF16 &mask) {
-    if (IsName(mask)) return MOVE_FILE(mask, Inside(directory, GETFILE(mask)));
-    const std::vector<UTF16> files = FILES_OF(mask);
-    if (files.empty()) return TellNothing(mask);
+bool MOVE_FILES_TO(const UTF16 &directory, const std::vector<UTF16> &masks) {
     bool isMoved = true;
-    for (const UTF16 &file : files)
-        isMoved = MOVE_FILE(file, Inside(directory, GETFILE(file))) && isMoved;
+    for (const TRANSFER &file : TransfersInto(directory, masks, COPY_METHOD::BYTES, isMoved))
+        isMoved = MOVE_FILE(file.source, file.target) && isMoved;
     return isMoved;
 }
 
 bool RENAME_FILE(const UTF16 &from, const UTF16 &to) {
-    return IsMovable(from) && !RefuseSame(from, to) && RENAME(from, to);
+    return IsMovable(from) && !REFUSE_SAME(from, to) && !IsProtected(to) && RENAME(from, to);
 }
 
 bool JOIN_FILES(const UTF16 &target, const std::vector<UTF16> &masks) {
     std::vector<UTF16> sources;
     for (const UTF16 &mask : masks) {
-        const std::vector<UTF16> files = IsName(mask) ? std::vector<UTF16>{mask} : FILES_OF(mask);
+        const std::vector<UTF16> files = FilesOrName(mask);
         if (files.empty()) return TellNothing(mask);
-        for (const UTF16 &file : files)
-            if (!RefuseSame(file, target)) sources.push_back(file);
+        for (const UTF16 &file : files) {
+            if (!REFUSE_SAME(file, target))
+                sources.push_back(file);
+            else if (IsName(mask))
+                return false;
+        }
     }
     if (sources.empty() || !HARDMKDIR(GETDIR(FILENAMESAVE(target)))) return false;
     if (!std::all_of(sources.begin(), sources.end(), IS_REGULAR_FILE)) return false;

@@ -24,19 +24,22 @@ bool COPY_FILE(const UTF16 &source, const UTF16 &target, COPY_METHOD method);
 // A name without wildcards goes to `target`, or into it when it is a directory or ends with "/";
 // all files of a mask go into the directory `target`. False: at least one failed.
 bool COPY_FILES(const UTF16 &mask, const UTF16 &target, COPY_METHOD method);
-// Every file of the mask into a directory under its own name, with ".gz" added by PACK and cut by
-// UNPACK.
-bool COPY_FILES_TO(const UTF16 &directory, const UTF16 &mask, COPY_METHOD method);
+// Every file of the masks into a directory under its own name, with ".gz" added by PACK and cut by
+// UNPACK. Of several files that would get one name the first goes; the others are told, so that
+// none replaces another.
+bool COPY_FILES_TO(const UTF16 &directory, const std::vector<UTF16> &masks, COPY_METHOD method);
 
-bool MOVE_FILE(const UTF16 &source, const UTF16 &target); // by renaming, else MOVE_BY_COPY
+// By renaming, else MOVE_BY_COPY. A write-protected target is told and stays, as with a copy.
+bool MOVE_FILE(const UTF16 &source, const UTF16 &target);
 // The way between two file systems: copy with permissions and times, then delete the source.
 bool MOVE_BY_COPY(const UTF16 &source, const UTF16 &target);
-bool MOVE_FILES(const UTF16 &mask, const UTF16 &target); // as COPY_FILES
-bool MOVE_FILES_TO(const UTF16 &directory, const UTF16 &mask);
-bool RENAME_FILE(const UTF16 &from, const UTF16 &to); // no directories, no other file system
+bool MOVE_FILES(const UTF16 &mask, const UTF16 &target);                     // as COPY_FILES
+bool MOVE_FILES_TO(const UTF16 &directory, const std::vector<UTF16> &masks); // as COPY_FILES_TO
+bool RENAME_FILE(const UTF16 &from, const UTF16 &to); // as MOVE_FILE on one file system
 
 // The files of the masks one behind the other as one file. Sources with ".gz" are unpacked, a
-// target with ".gz" is packed; the target itself is left out. A source that fails: no change.
+// target with ".gz" is packed. A mask leaves the target itself out; named as a source it is
+// refused. A source that fails: no change.
 bool JOIN_FILES(const UTF16 &target, const std::vector<UTF16> &masks);
 
 void DELETE_FILES(const UTF16 &mask); // every file of the mask, never a directory

@@ -9,32 +9,16 @@
 #include "script/file/file_copy.hpp"
 #include "script/file/file_stream.hpp"
 #include "script/file/name_mask.hpp"
+#include "script/file/unicode_text.hpp"
 
 #include <new>
 
 namespace morvane {
 namespace {
-constexpr std::string_view UTF8_MARK = "\xEF\xBB\xBF", LITTLE_MARK = "\xFF\xFE",
-                           BIG_MARK = "\xFE\xFF";
+constexpr std::string_view UTF8_MARK = "\xEF\xBB\xBF";
 constexpr char END_MARK = 26;
 
 unsigned Unit(char c) { return static_cast<unsigned char>(c); }
-
-void AppendCharacter(std::string &text, unsigned code) {
-    const auto put = [&text](unsigned byte) { text += static_cast<char>(byte); };
-    if (code < 0x80) return put(code);
-    if (code < 0x800) {
-        put(0xC0 | code >> 6);
-    } else if (code < 0x10000) {
-        put(0xE0 | code >> 12);
-        put(0x80 | (code >> 6 & 0x3F));
-    } else {
-        put(0xF0 | code >> 18);
-        put(0x80 | (code >> 12 & 0x3F));
-        put(0x80 | (code >> 6 & 0x3F));
-    }
-    put(0x80 | (code & 0x3F));
-}
 
 // Bytes of the UTF-8 sequence at the front; 0: there is none. Longer forms than needed,
 // surrogates and codes above 10FFFF are none.
@@ -51,30 +35,8 @@ std::size_t SequenceLength(std::string_view text) {
     return isWrong ? 0 : length;
 }
 
-std::string FromUnits(std::string_view bytes, bool bigEndian) {
-    std::string text;
-    const auto unit = [&](std::size_t at) {
-        const unsigned first = Unit(bytes[at]), second = Unit(bytes[at + 1]);
-        return bigEndian ? first << 8 | second : second << 8 | first;
-    };
-    for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
-        unsigned code = unit(at);
-        const bool isPair = code >= 0xD800 && code < 0xDC00 && at + 3 < bytes.size() &&
-                            unit(at + 2) >= 0xDC00 && unit(at + 2) < 0xE000;
-        if (isPair) {
-            code = 0x10000 + ((code - 0xD800) << 10) + (unit(at + 2) - 0xDC00);
-            at += 2;
-        } else if (code >= 0xD800 && code < 0xE000) {
-            code = '?'; // half of a pair stands for nothing
-        }
-        AppendCharacter(text, code);
-    }
-    return text;
-}
-
 std::string Utf8Of(std::string_view bytes) {
-    if (bytes.starts_with(LITTLE_MARK)) return FromUnits(bytes.substr(2), false);
-    if (bytes.starts_with(BIG_MARK)) return FromUnits(bytes.substr(2), true);
+    if (HAS_UNIT_MARK(bytes)) return UTF8_OF_UNITS(bytes);
     if (bytes.starts_with(UTF8_MARK)) bytes.remove_prefix(UTF8_MARK.size());
     std::string text;
     while (!bytes.empty()) {
@@ -82,7 +44,7 @@ std::string Utf8Of(std::string_view bytes) {
         if (length > 0)
             text.append(bytes.substr(0, length));
         else
-            AppendCharacter(text, Unit(bytes[0]));
+            APPEND_UTF8(text, Unit(bytes[0]));
         bytes.remove_prefix(length > 0 ? length : 1);
     }
     return text;
@@ -131,8 +93,7 @@ bool RepairText(const UTF16 &name) {
 } // namespace
 
 bool IS_TEXT(std::string_view bytes) {
-    if (bytes.starts_with(LITTLE_MARK) || bytes.starts_with(BIG_MARK)) return true;
-    return bytes.find('\0') == std::string_view::npos;
+    return HAS_UNIT_MARK(bytes) || bytes.find('\0') == std::string_view::npos;
 }
 
 std::string REPAIRED_TEXT(std::string_view bytes) {

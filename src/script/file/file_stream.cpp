@@ -63,4 +63,10 @@ bool IS_SAME_FILE(const UTF16 &a, const UTF16 &b) {
     return Status(a, first) && Status(b, second) && first.st_dev == second.st_dev &&
            first.st_ino == second.st_ino;
 }
+
+bool REFUSE_SAME(const UTF16 &source, const UTF16 &target) {
+    if (!IS_SAME_FILE(source, target)) return false;
+    WRITELN("  Source and target are the same file (" + GETUTF8(GETMESSAGEDIR(source)) + ").");
+    return true;
+}
 } // namespace morvane

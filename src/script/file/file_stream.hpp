@@ -9,4 +9,5 @@ bool APPEND_BYTES(FILE_WRITE &target, const UTF16 &source, bool unpacked);
 
 bool IS_REGULAR_FILE(const UTF16 &name);           // links followed; tells in words when it is not
 bool IS_SAME_FILE(const UTF16 &a, const UTF16 &b); // one file of the system under both names
+bool REFUSE_SAME(const UTF16 &source, const UTF16 &target); // tells when it is one file
 } // namespace morvane

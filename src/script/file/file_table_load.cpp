@@ -2,6 +2,7 @@
 
 #include "foundation/console/console.hpp"
 #include "foundation/console/paths.hpp"
+#include "script/file/unicode_text.hpp"
 
 #include <algorithm>
 #include <array>
@@ -123,21 +124,6 @@ bool CELL_READER::ROW(std::vector<std::string> &cells) {
     return true;
 }
 
-bool IsWide(std::string_view bytes) {
-    return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
-}
-
-// UTF-8 of a text in two-byte units behind its byte order mark.
-std::string FromWideUnits(std::string_view bytes) {
-    const bool little = bytes.starts_with('\xFF');
-    std::string text;
-    for (std::size_t i = 2; i + 1 < bytes.size(); i += 2) {
-        const BYTE first = static_cast<BYTE>(bytes[i]), second = static_cast<BYTE>(bytes[i + 1]);
-        text += GETUTF8(little ? UTF16CHAR{first, second} : UTF16CHAR{second, first});
-    }
-    return text;
-}
-
 // The separator of a file of comma-separated values: the most frequent one of its first line, a
 // comma when there is none. Commas stand in texts and numbers too, so they come last.
 std::string CommonSeparator(std::string_view bytes) {
@@ -186,8 +172,9 @@ bool TFILETABLE::LOADBYTES(std::string_view bytes, bool comments) {
 bool TFILETABLE::Parse(const std::string &cut, bool comments) {
     constexpr NAT SHORTEST_TEXT = 2; // bytes of a file that has lines
     try {
-        const std::string narrow = IsWide(VIEW()) ? FromWideUnits(VIEW()) : std::string();
-        const std::string_view bytes = IsWide(VIEW()) ? std::string_view(narrow) : VIEW();
+        const bool isWide = HAS_UNIT_MARK(VIEW());
+        const std::string narrow = isWide ? UTF8_OF_UNITS(VIEW()) : std::string();
+        const std::string_view bytes = isWide ? std::string_view(narrow) : VIEW();
         CELL_READER reader(SIZE() < SHORTEST_TEXT ? std::string_view() : bytes, cut, join,
                            comments);
         ROW cells; // keeps its memory; each row gets what it needs

@@ -1,5 +1,7 @@
 #include "script/file/xml_scan.hpp"
 
+#include "script/file/unicode_text.hpp"
+
 #include <algorithm>
 #include <charconv>
 
@@ -65,22 +67,6 @@ std::uint32_t NumberedCharacter(std::string_view digits) {
     if (result.ec != std::errc() || result.ptr != end) return 0;
     const bool isCharacter = code < 0xD800 || (code > 0xDFFF && code <= 0x10FFFF);
     return isCharacter ? code : 0;
-}
-
-void PutUtf8(std::string &out, std::uint32_t code) {
-    const auto put = [&](std::uint32_t byte) { out += static_cast<char>(byte); };
-    if (code < 0x80) return put(code);
-    if (code < 0x800) {
-        put(0xC0 | code >> 6);
-    } else if (code < 0x10000) {
-        put(0xE0 | code >> 12);
-        put(0x80 | (code >> 6 & 0x3F));
-    } else {
-        put(0xF0 | code >> 18);
-        put(0x80 | (code >> 12 & 0x3F));
-        put(0x80 | (code >> 6 & 0x3F));
-    }
-    put(0x80 | (code & 0x3F));
 }
 
 // The character of an entity's name; 0 for one that is unknown.
@@ -229,7 +215,7 @@ std::string XML_DECODED(std::string_view text) {
             out += text[i];
             continue;
         }
-        PutUtf8(out, code);
+        APPEND_UTF8(out, code);
         i += end + 1;
     }
     return out;

@@ -74,13 +74,15 @@ void PROGRESS_LINE(TMACRO *engine) {
     PROGRESS(engine->GETPARAMETER(2), GETREAL(engine->GETPARAMETER(1)));
 }
 
-// run file: a second engine without commands; a missing file does nothing. Its failure is ours.
+// run file: a second engine without commands that may do what ours may; a missing file does
+// nothing. Its failure is ours.
 void RUN_FILE(TMACRO *engine) {
     const UTF16 name = engine->GETPARAMETER(1);
-    if (!FILEEXISTS(name)) return;
+    if (!engine->switches.FILES || !FILEEXISTS(name)) return;
     WRITELN(">>>> Sub program");
     TMACRO inner;
     inner.INIT();
+    inner.switches = engine->switches;
     inner.LOAD(name);
     inner.RUN();
     WRITELN("<<<<< End of sub program");

@@ -68,7 +68,7 @@ void DumpConstants(TMACRO *engine, NAT least) {
 }
 
 void DUMP_LINE(TMACRO *engine) {
-    DUMP_TEXT dump(engine, "line");
+    DUMP_TEXT dump(engine, "lines");
     const TFILECOMMAND &script = engine->SCRIPT();
     for (NAT i = 1; i <= script.LENGTH(); ++i)
         dump.ADD("  " + GETSTRING(i) + " (" + GETSTRING(script.GETREALLINE(i)) +

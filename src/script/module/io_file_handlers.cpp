@@ -25,6 +25,13 @@ template <class OPERATION> void FromTo(TMACRO *engine, OPERATION operation) {
     operation(from, engine->GETPARAMETER(2));
 }
 
+// Calls an operation on the first parameter and all the others.
+template <class OPERATION> void FirstAndRest(TMACRO *engine, OPERATION operation) {
+    std::vector<UTF16> rest;
+    ForEach(engine, 2, [&rest](const UTF16 &text) { rest.push_back(text); });
+    if (engine->switches.FILES) operation(engine->GETPARAMETER(1), rest);
+}
+
 void Answer(TMACRO *engine, NAT (*query)(const UTF16 &name)) {
     const UTF16 name = engine->GETPARAMETER(1);
     engine->COMMAND_RESULT = GETSTRING_NAT(engine->switches.FILES ? query(name) : -1);
@@ -49,11 +56,7 @@ void IO_FILE_DELETE(TMACRO *engine) { ForEach(engine, 1, DELETE_FILES); }
 void IO_FILE_REPAIR(TMACRO *engine) { ForEach(engine, 1, REPAIR_FILES); }
 
 // join target mask ...
-void IO_FILE_JOIN(TMACRO *engine) {
-    std::vector<UTF16> masks;
-    ForEach(engine, 2, [&masks](const UTF16 &mask) { masks.push_back(mask); });
-    if (engine->switches.FILES) JOIN_FILES(engine->GETPARAMETER(1), masks);
-}
+void IO_FILE_JOIN(TMACRO *engine) { FirstAndRest(engine, JOIN_FILES); }
 
 void IO_FILE_COPY_METHOD(TMACRO *engine) {
     const UTF16 word = engine->GETPARAMETER(1);
@@ -69,14 +72,11 @@ void IO_FILE_RENAME(TMACRO *engine) { FromTo(engine, RENAME_FILE); }
 
 // copy.to directory mask ...
 void IO_FILE_COPY_TO(TMACRO *engine) {
-    const UTF16 directory = engine->GETPARAMETER(1);
-    ForEach(engine, 2,
-            [&directory](const UTF16 &mask) { COPY_FILES_TO(directory, mask, IO.METHOD); });
+    FirstAndRest(engine, [](const UTF16 &directory, const std::vector<UTF16> &masks) {
+        COPY_FILES_TO(directory, masks, IO.METHOD);
+    });
 }
-void IO_FILE_MOVE_TO(TMACRO *engine) {
-    const UTF16 directory = engine->GETPARAMETER(1);
-    ForEach(engine, 2, [&directory](const UTF16 &mask) { MOVE_FILES_TO(directory, mask); });
-}
+void IO_FILE_MOVE_TO(TMACRO *engine) { FirstAndRest(engine, MOVE_FILES_TO); }
 
 void IO_FILE_GETSIZE_REF(TMACRO *engine) { Answer(engine, FILESIZE); }
 void IO_FILE_GETAGE_REF(TMACRO *engine) { Answer(engine, FILEAGE); }

@@ -103,13 +103,18 @@ void LIST_DELETE(TMACRO *engine) {
     if (!LISTS.CURRENT().ERASE(index)) TellPosition(index);
 }
 
+// Without files nothing is touched.
 void LIST_LOAD(TMACRO *engine) {
+    if (!engine->switches.FILES) return;
     TLIST &list = LISTS.CURRENT();
     list.SETKIND(LISTS.DEFAULTKIND);
     static_cast<void>(list.LOAD(engine->GETPARAMETER(1)));
 }
 
-void LIST_SAVE(TMACRO *engine) { static_cast<void>(LISTS.CURRENT().SAVE(engine->GETPARAMETER(1))); }
+void LIST_SAVE(TMACRO *engine) {
+    if (engine->switches.FILES)
+        static_cast<void>(LISTS.CURRENT().SAVE(engine->GETPARAMETER(1))); // tells its failure
+}
 
 // save.table file [list ...]: the lists named, or the one in use.
 void LIST_SAVE_TABLE(TMACRO *engine) {
@@ -126,7 +131,8 @@ void LIST_SAVE_TABLE(TMACRO *engine) {
         else
             WRITELN("Unknown list (" + name + ") ignored");
     }
-    if (!columns.empty()) static_cast<void>(SAVE_TABLE(engine->GETPARAMETER(1), columns));
+    if (!columns.empty() && engine->switches.FILES)
+        static_cast<void>(SAVE_TABLE(engine->GETPARAMETER(1), columns));
 }
 
 void LIST_MIN_REF(TMACRO *engine) { engine->COMMAND_RESULT = LISTS.CURRENT().MIN(); }

@@ -4,6 +4,7 @@
 #include "foundation/console/files.hpp"
 #include "foundation/console/paths.hpp"
 #include "script/file/file_list.hpp"
+#include "script/file/file_stream.hpp"
 #include "script/file/name_mask.hpp"
 #include "script/module/text_line.hpp"
 #include "script/module/text_target.hpp"
@@ -41,17 +42,6 @@ private:
     }
 };
 
-// Whether both names mean one file, as far as names tell.
-bool IsSameFile(const UTF16 &a, const UTF16 &b) {
-    const auto whole = [](const UTF16 &name) {
-        std::string path = LOADPATH(name);
-        while (path.starts_with("./"))
-            path.erase(0, 2);
-        return path.starts_with('/') ? path : GETUTF8(GETCURRENTDIR()) + "/" + path;
-    };
-    return whole(a) == whole(b);
-}
-
 // The named file, or the files of a mask without the target.
 std::vector<UTF16> SourcesOf(const TEXT_REQUEST &request) {
     if (!HAS_WILDCARD(request.file)) return {request.file};
@@ -59,7 +49,7 @@ std::vector<UTF16> SourcesOf(const TEXT_REQUEST &request) {
     files.INIT(request.file);
     std::vector<UTF16> sources;
     for (NAT i = 1; i <= files.LENGTH; ++i)
-        if (const UTF16 name = files.GET(i); !IsSameFile(name, request.target))
+        if (const UTF16 name = files.GET(i); !IS_SAME_FILE(name, request.target))
             sources.push_back(name);
     if (sources.empty()) WRITELN("  No file for (" + GETUTF8(request.file) + ").");
     return sources;
@@ -117,6 +107,9 @@ bool SPLIT_FILE(PART_CUT cut, const TEXT_REQUEST &request) {
     }
     if (!cuts.isMarked) TELLMISSING(request.text, request.file);
     const NAT count = static_cast<NAT>(cuts.parts.size());
+    // Until the last part is written, the file has to stay.
+    for (NAT number = 1; number <= count; ++number)
+        if (REFUSE_SAME(request.file, PART_NAME(request.target, number, count))) return false;
     for (NAT number = 1; number <= count; ++number) {
         FILE_WRITE target;
         if (!ASSIGNWRITE_BY_NAME(target, PART_NAME(request.target, number, count))) return false;

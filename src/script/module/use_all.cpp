@@ -5,9 +5,10 @@
 namespace morvane {
 namespace {
 const COMMAND_SET *const SETS[] = {
-    &CORE_SET,   &RANDOM_SET, &CLOCK_SET,    &LIST_SET,    &MATH_SET,    &STACK_SET,  &QUAT_SET,
-    &MATRIX_SET, &IO_SET,     &IO_FILES_SET, &IO_FILE_SET, &IO_DIRS_SET, &IO_DIR_SET, &IO_LISTS_SET,
-    &BINARY_SET, &TEXT_SET,   &TXT_SET,      &BLOB_SET,    &XML_SET,     &TABLE_SET,  &DUMP_SET};
+    &CORE_SET,   &RANDOM_SET,   &CLOCK_SET,     &LIST_SET,        &MATH_SET,    &STACK_SET,
+    &QUAT_SET,   &MATRIX_SET,   &IO_SET,        &IO_FILES_SET,    &IO_FILE_SET, &IO_DIRS_SET,
+    &IO_DIR_SET, &IO_LISTS_SET, &BINARY_SET,    &TEXT_SET,        &TXT_SET,     &BLOB_SET,
+    &XML_SET,    &TABLE_SET,    &COLOR_MAP_SET, &COLOR_ALPHA_SET, &COLOR_SET,   &DUMP_SET};
 } // namespace
 
 std::span<const COMMAND_SET *const> MODULE_SETS() { return SETS; }
@@ -22,6 +23,7 @@ void TMACRO::USE_ALL() {
     USE_TEXT();
     USE_XML();
     USE_TABLE();
+    USE_COLOR();
     USE_DUMP();
 }
 } // namespace morvane

@@ -182,6 +182,18 @@ TEST_CASE("missing, circular and conditional imports are found") {
     CHECK(FOUND("ignore\nimport none\nend\n").empty());
 }
 
+TEST_CASE("a file of lines that a line above makes or tests for is not missing") {
+    const SCRATCH_FOLDER folder;
+    const std::string missing = ": import file not found: part.macro\n";
+    CHECK(FOUND("store part.macro\nprint 1\nend\nimport part.macro\nfrom.it\n").empty());
+    CHECK(FOUND("ifexists part.macro\nthen\nimport part.macro\nend\n").empty());
+    CHECK(FOUND("execute make\nimport part.macro\n").empty());
+    CHECK(FOUND("procedure p\nimport part.macro\nend\nstore part.macro\nend\np\n").empty());
+    CHECK(FOUND("import part.macro\nstore part.macro\nend\n") == "1:8" + missing);
+    CHECK(FOUND("import part.macro\nimport part.macro\n") == "1:8" + missing + "2:8" + missing);
+    CHECK(FOUND("store part\nend\nignore\ninclude part\nend\n").empty());
+}
+
 TEST_CASE("behind an import that only the run knows any command may be known") {
     const SCRATCH_FOLDER folder;
     CHECK(FOUND("f := part\nimport f\nfrom.it 5\nx := scalar.cout\n").empty());

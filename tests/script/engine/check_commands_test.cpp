@@ -26,6 +26,8 @@ TEST_CASE("an unknown command is found with its place and the nearest names") {
     CHECK(FOUND("if 1\nthen prnt 5\n") == "2:6: unknown procedure prnt; nearest: print\n");
     CHECK(FOUND("case 1\nof 1 prnt 5\n") == "2:6: unknown procedure prnt; nearest: print\n");
     CHECK(FOUND("xyz\n") == "1:1: unknown procedure xyz\n");
+    CHECK(FOUND("xyz\tabc\n") ==
+          "1:1: unknown procedure xyz\tabc; only a blank parts a command from its parameters\n");
     CHECK(FOUND("fro 3\nnop\n").starts_with("1:1: unknown procedure fro; nearest: for\n"));
 }
 
@@ -115,6 +117,17 @@ TEST_CASE("a body may get the prefix of its caller") {
     CHECK(FOUND("function f\nsmooth\nend\nwith scalar\nx := f\nend\n").empty());
     CHECK(FOUND("function f\nsmooth\nend\nx := f\n") ==
           "2:1: unknown procedure smooth; nearest: scalar.smooth\n");
+}
+
+TEST_CASE("behind := a word under a namespace of the program that is no function is found") {
+    const SCRATCH_FOLDER folder;
+    CHECK(FOUND("a := scalar.median\n") ==
+          "1:6: unknown function scalar.median: this line stores its name\n");
+    CHECK(FOUND("a := scalar.median 3\n") ==
+          "1:6: unknown function scalar.median: this line stores its name\n");
+    CHECK(FOUND("a := \"scalar.median\"\nb := study.median\nc := median.scalar\nd := .scalar\n"
+                "scalar.median := 3\ne := scalar.median\n")
+              .empty());
 }
 
 TEST_CASE("behind := a word is a text unless it misses a function by a letter or two") {

@@ -146,6 +146,31 @@ TEST_CASE("a directory is not copied into itself") {
     CHECK_FALSE(test.folder.HAS("x"));
 }
 
+TEST_CASE("a directory copied to the one above it never falls upon what is still to be copied") {
+    TREE_TEST test;
+    fs::create_directories("p/b/b");
+    test.folder.WRITE("p/b/f", "outer");
+    test.folder.WRITE("p/b/b/f", "inner");
+    CHECK_FALSE(COPY_TREE("p/b", "p"));
+    CHECK(test.console.CONTAINS("  Target lies inside the source (p/b)."));
+    CHECK(test.folder.READ("p/b/f") == "outer");
+    CHECK(test.folder.READ("p/b/b/f") == "inner");
+    CHECK(test.folder.READ("p/f") == "outer");
+}
+
+TEST_CASE("a link in the target that leads into the source is not followed") {
+    TREE_TEST test;
+    fs::create_directories("a/x");
+    fs::create_directories("a/y");
+    fs::create_directory("b");
+    fs::create_directory_symlink("../a/y", "b/x");
+    test.folder.WRITE("a/x/f", "x");
+    test.folder.WRITE("a/y/f", "y");
+    CHECK_FALSE(COPY_TREE("a", "b"));
+    CHECK(test.folder.READ("a/y/f") == "y");
+    CHECK(test.folder.READ("b/y/f") == "y");
+}
+
 TEST_CASE("a pipe in a directory is told and the rest copied") {
     TREE_TEST test;
     fs::create_directory("a");

@@ -4,6 +4,7 @@
 #include "script/file/file.hpp"
 #include "support/capture.hpp"
 #include "support/scratch_folder.hpp"
+#include "support/without_root.hpp"
 
 #include <fcntl.h>
 #include <filesystem>
@@ -157,9 +158,9 @@ TEST_CASE("a name goes to a name, or into a directory; a mask goes into a direct
 TEST_CASE("packing into a directory adds gz to the names and unpacking cuts it") {
     COPY_TEST test;
     test.folder.WRITE("a.nii", "abc");
-    CHECK(COPY_FILES_TO("packed", "a.nii", COPY_METHOD::PACK));
+    CHECK(COPY_FILES_TO("packed", {"a.nii"}, COPY_METHOD::PACK));
     CHECK(UNPACKED("packed/a.nii.gz") == "abc");
-    CHECK(COPY_FILES_TO("plain/", "packed/*", COPY_METHOD::UNPACK));
+    CHECK(COPY_FILES_TO("plain/", {"packed/*"}, COPY_METHOD::UNPACK));
     CHECK(test.folder.READ("plain/a.nii") == "abc");
 }
 
@@ -167,7 +168,7 @@ TEST_CASE("an empty directory name as a target of files is the working directory
     COPY_TEST test;
     fs::create_directory("in");
     test.folder.WRITE("in/a", "1");
-    CHECK(COPY_FILES_TO("", "in/a", COPY_METHOD::AUTO));
+    CHECK(COPY_FILES_TO("", {"in/a"}, COPY_METHOD::AUTO));
     CHECK(test.folder.READ("a") == "1");
 }
 
@@ -194,10 +195,45 @@ TEST_CASE("a move replaces its target and makes the directories") {
     CHECK(MOVE_FILES("b", "x/y"));
     CHECK(MOVE_FILES("x/y", "z/"));
     CHECK(test.folder.READ("z/y") == "1");
-    CHECK(MOVE_FILES_TO("w", "z/*"));
+    CHECK(MOVE_FILES_TO("w", {"z/*"}));
     CHECK(test.folder.READ("w/y") == "1");
     CHECK_FALSE(MOVE_FILES("z/*", "w"));
     CHECK(test.console.CONTAINS("  No file fits (z/*)."));
+}
+
+TEST_CASE("files of one name from several directories never replace one another") {
+    COPY_TEST test;
+    fs::create_directory("s1");
+    fs::create_directory("s2");
+    test.folder.WRITE("s1/a", "1");
+    test.folder.WRITE("s2/a", "2");
+    test.folder.WRITE("s2/a.gz", "3");
+    CHECK_FALSE(COPY_FILES_TO("copy", {"s1/*", "s2/a"}, COPY_METHOD::AUTO));
+    CHECK(test.console.CONTAINS("  A second file of this name is left where it is (s2/a).\n"));
+    CHECK(test.folder.READ("copy/a") == "1");
+    CHECK_FALSE(COPY_FILES_TO("packed", {"s2/*"}, COPY_METHOD::PACK));
+    CHECK(UNPACKED("packed/a.gz") == "2");
+    CHECK_FALSE(MOVE_FILES("s?/a", "moved"));
+    CHECK(test.folder.READ("moved/a") == "1");
+    CHECK(test.folder.READ("s2/a") == "2");
+    CHECK(MOVE_FILES_TO("next/", {"s2/a", "s2/*"})); // one file in both
+    CHECK(test.folder.READ("next/a") + test.folder.READ("next/a.gz") == "23");
+}
+
+TEST_CASE("a write-protected target is told and stays, whether copied, moved or renamed to") {
+    COPY_TEST test;
+    test.folder.WRITE("raw", "raw");
+    test.folder.WRITE("a", "1");
+    fs::permissions("raw", fs::perms(0444));
+    const WITHOUT_ROOT user;
+    CHECK_FALSE(COPY_FILE("a", "raw", COPY_METHOD::AUTO));
+    CHECK_FALSE(MOVE_FILE("a", "raw"));
+    CHECK_FALSE(RENAME_FILE("a", "raw"));
+    const std::string line = "DOS-Error\n  File (raw) access denied.\n";
+    CHECK(test.console.TEXT() == line + line + line);
+    CHECK(test.folder.READ("raw") == "raw");
+    CHECK(test.folder.READ("a") == "1");
+    CHECK(RENAME_FILE("a", "b"));
 }
 
 TEST_CASE("a move between file systems keeps bytes, permissions and time") {
@@ -267,6 +303,19 @@ TEST_CASE("joining puts the files one behind the other, unpacked, and leaves the
     CHECK(test.console.CONTAINS("  Source and target are the same file (p_all.txt).\n"));
     CHECK(JOIN_FILES("new/all.gz", {"p1.txt", "p1.txt"}));
     CHECK(UNPACKED("new/all.gz") == "one\none\n");
+}
+
+TEST_CASE("a join that names its target as a source is refused") {
+    COPY_TEST test;
+    test.folder.WRITE("a", "1");
+    test.folder.WRITE("b", "2");
+    fs::create_symlink("a", "link");
+    for (const char *name : {"a", "./a", "link"}) {
+        test.console.CLEAR();
+        CHECK_FALSE(JOIN_FILES("a", {name, "b"}));
+        CHECK(test.console.CONTAINS("  Source and target are the same file ("));
+        CHECK(test.folder.READ("a") == "1");
+    }
 }
 
 TEST_CASE("joining with a file that is missing changes nothing") {

@@ -133,6 +133,16 @@ TEST_CASE("names that a script cannot hold are left out and told") {
           "in a script.\n");
 }
 
+TEST_CASE("a name that would be read as one two directories above is left out") {
+    const SCRATCH_FOLDER folder;
+    const CAPTURE console;
+    MAKE("in");
+    folder.WRITE("..d.txt", "");
+    REQUIRE(::chdir("in") == 0);
+    CHECK(FILES("../.*.txt").empty()); // "../..d.txt" would begin with "../.."
+    CHECK(console.CONTAINS("  Names left out (1)"));
+}
+
 TEST_CASE("a path of 254 characters is listed and one of 255 is left out") {
     const SCRATCH_FOLDER folder;
     const CAPTURE console;

@@ -2,6 +2,8 @@
 #include "script/module/use_all.hpp"
 #include "text_script.hpp"
 
+#include <sys/stat.h>
+
 #include <doctest/doctest.h>
 
 using namespace morvane;

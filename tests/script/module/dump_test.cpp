@@ -63,7 +63,7 @@ TEST_CASE("dump.used knows lambdas and functions by their words") {
 
 TEST_CASE("dump.all shows all dumps in the order of the rows") {
     const std::string script = "with dump\nall\nend\n";
-    CHECK(SHOWN(script) == FRAMED("line", "  1 (1): with dump\n  2 (2): all\n  3 (3): end\n") +
+    CHECK(SHOWN(script) == FRAMED("lines", "  1 (1): with dump\n  2 (2): all\n  3 (3): end\n") +
                                FRAMED("used", "  (1)+[procedure] dump.all\n") +
                                FRAMED("progs", "") + FRAMED("progs", "") + FRAMED("modulus", "") +
                                FRAMED("vars", VARIABLES) + FRAMED("vars", "") +
@@ -76,7 +76,7 @@ TEST_CASE("dump.line shows the line's number in the file that it came from") {
     folder.WRITE("part.macro", "nop\nnop\n");
     CHECK(SHOWN("nop\nimport part.macro\ndump.line\n") ==
           "Read file (part.macro) with size (8 B).\n" +
-              FRAMED("line", "  1 (1): nop\n  2 (1): nop\n  3 (2): nop\n  4 (3): dump.line\n"));
+              FRAMED("lines", "  1 (1): nop\n  2 (1): nop\n  3 (2): nop\n  4 (3): dump.line\n"));
 }
 
 TEST_CASE("every row of the dumps runs as its usage line shows") {

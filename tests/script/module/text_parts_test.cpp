@@ -93,6 +93,24 @@ TEST_CASE("a mask never gathers from the target itself") {
     CHECK(script.folder.READ("all.txt") == "x 1\nx 1\n");
 }
 
+TEST_CASE("a mask never gathers from a link to the target") {
+    TEXT_SCRIPT script;
+    script.folder.WRITE("all.log", "x 0\n");
+    std::filesystem::create_symlink("all.log", "b.txt");
+    script.folder.WRITE("a.txt", "x 1\n");
+    script.RUN("text.collect.append \"*.txt\" x all.log");
+    CHECK(script.folder.READ("all.log") == "x 0\nx 1\n");
+}
+
+TEST_CASE("parts of which one would replace the file itself are refused") {
+    TEXT_SCRIPT script;
+    script.folder.WRITE("a_2.txt", "x\n1\nx\n2\n");
+    CHECK(script.RUN("text.split.file.before a_2.txt x a.txt") ==
+          "  Source and target are the same file (a_2.txt).\n");
+    CHECK(script.folder.READ("a_2.txt") == "x\n1\nx\n2\n");
+    CHECK_FALSE(script.folder.HAS("a_1.txt"));
+}
+
 TEST_CASE("text.collect.append adds to a file or begins a new one") {
     TEXT_SCRIPT script;
     script.folder.WRITE("a.txt", "x 1\ny\n");

@@ -3,30 +3,11 @@
 #include "script/engine/macro.hpp"
 #include "support/capture.hpp"
 #include "support/scratch_folder.hpp"
+#include "support/without_root.hpp"
 
 #include <string>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace morvane {
-// Works as a user for whom permissions hold, when the tests run as root; every user may
-// write into the current folder.
-class WITHOUT_ROOT {
-public:
-    WITHOUT_ROOT() : isRoot(::geteuid() == 0) {
-        std::filesystem::permissions(".", std::filesystem::perms::all);
-        if (isRoot && ::seteuid(65534) != 0) std::abort();
-    }
-    ~WITHOUT_ROOT() {
-        if (isRoot && ::seteuid(0) != 0) std::abort();
-    }
-    WITHOUT_ROOT(const WITHOUT_ROOT &) = delete;
-    WITHOUT_ROOT &operator=(const WITHOUT_ROOT &) = delete;
-
-private:
-    bool isRoot;
-};
-
 // Runs script lines in an engine with all modules, in a folder of its own.
 struct TEXT_SCRIPT {
     SCRATCH_FOLDER folder;
