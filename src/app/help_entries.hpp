@@ -30,15 +30,13 @@ std::span<const HELP_GROUP> HELP_GROUPS();
 // The group of a set: the first part of its namespace, or the name given to a set without one.
 std::string_view HELP_GROUP_OF(const COMMAND_SET &set);
 
-// One parameter of a row: "name: kind [unit]", optional ones in [ ], "..." for repetition, "|"
-// between two ways to call.
+// One parameter of a row, in the order in which they stand.
 struct HELP_PARAMETER {
     std::string name, kind, unit;
     bool isOptional = false, isRepeated = false;
-    bool isAlternative = false;         // another way to call begins with it
-    bool opens = false, closes = false; // the bracket before it, and behind it
+    bool isAlternative = false; // another way to call begins with it
 };
 std::vector<HELP_PARAMETER> HELP_PARAMETERS(std::string_view parameters);
 // How a line with these parameters is written: "report [radius point ...]".
-std::string HELP_SYNTAX(const std::vector<HELP_PARAMETER> &parameters);
+std::string HELP_SYNTAX(std::string_view parameters);
 } // namespace morvane

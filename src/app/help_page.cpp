@@ -91,7 +91,7 @@ void WRITE_HELP_PAGE(const HELP_ENTRY &entry) {
     const std::vector<HELP_PARAMETER> parameters = HELP_PARAMETERS(entry.parameters);
     WRITE_HEADING(entry.name);
     WRITE_COLUMN("Note", LABEL_WIDTH, entry.note);
-    WriteUsage(UsageLines(entry, HELP_SYNTAX(parameters)));
+    WriteUsage(UsageLines(entry, HELP_SYNTAX(entry.parameters)));
     WRITE_COLUMN("Kind", LABEL_WIDTH, KindText(entry));
     WriteParameters(parameters);
     WRITE_FIXED("Example", LABEL_WIDTH, entry.usage);

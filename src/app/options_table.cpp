@@ -1,5 +1,7 @@
 #include "app/options_table.hpp"
 
+#include "image2d/format/external.hpp"
+
 namespace morvane {
 namespace {
 constexpr OPTION_ROW TOPIC(std::string_view text) { return {OPTION_KIND::TOPIC, text, "", "", ""}; }
@@ -125,10 +127,15 @@ constexpr OPTION_ROW ROWS[] = {
     {OPTION_KIND::SEED, "seed", "", "random seed", "random.seed", 0, NATMAX},
     LEGEND("The same seed gives the same random numbers, whatever thread.max is."),
 };
+
+constexpr IMAGE_LIBRARY LIBRARIES[] = {
+    {OPTION_NEED::FREEIMAGE, FREEIMAGE, FREEIMAGE_VERSION, FORBID_FREEIMAGE},
+    {OPTION_NEED::IMAGEMAGICK, IMAGEMAGICK, IMAGEMAGICK_VERSION, FORBID_IMAGEMAGICK},
+};
 } // namespace
 
 const std::span<const OPTION_ROW> OPTIONS(ROWS);
-std::span<const IMAGE_LIBRARY> IMAGE_LIBRARIES;
+std::span<const IMAGE_LIBRARY> IMAGE_LIBRARIES(LIBRARIES);
 
 const IMAGE_LIBRARY *ANSWERING_LIBRARY(OPTION_NEED need) {
     for (const IMAGE_LIBRARY &library : IMAGE_LIBRARIES)

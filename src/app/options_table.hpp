@@ -41,7 +41,7 @@ struct IMAGE_LIBRARY {
     UTF16 (*title)();    // its name and version
     void (*switchOff)(); // for the rest of the run
 };
-// The libraries that this build knows; none yet.
+// The libraries that this build knows. Another list is for tests.
 extern std::span<const IMAGE_LIBRARY> IMAGE_LIBRARIES;
 // The library of a row that needs one, when it answers, else null.
 const IMAGE_LIBRARY *ANSWERING_LIBRARY(OPTION_NEED need);

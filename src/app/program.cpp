@@ -2,6 +2,9 @@
 
 #include "app/first_run.hpp"
 #include "app/first_words.hpp"
+#include "app/image/image_commands.hpp"
+#include "app/image/image_filter_rows.hpp"
+#include "app/image/image_scan_rows.hpp"
 #include "app/line/line_commands.hpp"
 #include "app/options_table.hpp"
 #include "app/program_words.hpp"
@@ -34,8 +37,9 @@ struct RUN_WISHES {
 std::vector<const COMMAND_SET *> JOINED_SETS() {
     const auto modules = MODULE_SETS();
     std::vector<const COMMAND_SET *> sets(modules.begin(), modules.end());
-    sets.insert(sets.end(), {&PROGRAM_SET, &IMAGE_SET, &SCALAR_SET, &VECTOR_SET, &TENSOR_SET,
-                             &MESH_SET, &LINE_SET});
+    sets.insert(sets.end(), {&PROGRAM_SET, &IMAGE_SET, &IMAGE_GROUP_SET, &IMAGE_VALUE_SET,
+                             &IMAGE_FILTER_SET, &IMAGE_ANALYSIS_SET, &IMAGE_SCAN_SET, &SCALAR_SET,
+                             &VECTOR_SET, &TENSOR_SET, &MESH_SET, &LINE_SET});
     return sets;
 }
 

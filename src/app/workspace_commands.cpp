@@ -1,5 +1,6 @@
 #include "app/workspace_commands.hpp"
 
+#include "app/image/codec_commands.hpp"
 #include "app/workspaces.hpp"
 #include "script/workspace/setting_handlers.hpp"
 
@@ -18,29 +19,16 @@ constexpr COMMAND_ROW PROGRAM_ROWS[] = {
     PROCEDURE("clean", NEW_ALL, OWN_COUNT, "", "clean", "empty all lists of fields"),
     PROCEDURE("new", NEW_ALL, OWN_COUNT, "", "new", "empty all lists of fields"),
     PROCEDURE("dump", DUMP_ALL, OWN_COUNT, "", "dump", "list all fields"),
+    PROCEDURE("imagemagick.enable", IMAGEMAGICK_ENABLE, EXACTLY(0), "", "imagemagick.enable",
+              "read and write images with ImageMagick (default)"),
+    PROCEDURE("imagemagick.disable", IMAGEMAGICK_DISABLE, EXACTLY(0), "", "imagemagick.disable",
+              "read and write images without ImageMagick"),
+    PROCEDURE("freeimage.enable", FREEIMAGE_ENABLE, EXACTLY(0), "", "freeimage.enable",
+              "read and write images with FreeImage (default)"),
+    PROCEDURE("freeimage.disable", FREEIMAGE_DISABLE, EXACTLY(0), "", "freeimage.disable",
+              "read and write images without FreeImage"),
 };
 static_assert(ROWS_ARE_SOUND(PROGRAM_ROWS));
-
-constexpr COMMAND_ROW IMAGE_ROWS[] = {
-    PROCEDURE("8bit", (KIND_HANDLER<&IMAGES, IMAGE_GRAY>), OWN_COUNT, "", "image.8bit",
-              "new images have 8 bits"),
-    PROCEDURE("16bit", (KIND_HANDLER<&IMAGES, IMAGE_FULLGRAY>), OWN_COUNT, "", "image.16bit",
-              "new images have 16 bits (default)"),
-    PROCEDURE("24bit", (KIND_HANDLER<&IMAGES, IMAGE_RGB>), OWN_COUNT, "", "image.24bit",
-              "new images have colours"),
-    PROCEDURE("32bit", (KIND_HANDLER<&IMAGES, IMAGE_RGBA>), OWN_COUNT, "", "image.32bit",
-              "new images have colours and alpha"),
-    PROCEDURE("40bit", (KIND_HANDLER<&IMAGES, IMAGE_ZRGB>), OWN_COUNT, "", "image.40bit",
-              "new images have colours and depth"),
-    PROCEDURE("use", USE_HANDLER<&IMAGES>, OWN_COUNT, "name: name", "image.use noise",
-              "work on this image, a new one when there is none"),
-    PROCEDURE("swap", SWAP_HANDLER<&IMAGES>, OWN_COUNT, "first: name, second: name",
-              "image.swap noise default", "exchange two images"),
-    PROCEDURE("name", NAME_HANDLER<&IMAGES>, OWN_COUNT, "name: name", "image.name clean",
-              "rename the image"),
-    PROCEDURE("dump", DUMP_HANDLER<&IMAGES>, OWN_COUNT, "", "image.dump", "list the images"),
-};
-static_assert(ROWS_ARE_SOUND(IMAGE_ROWS));
 
 constexpr HANDLER TENSOR_SETINTEGER = KIND_HANDLER<&TENSORS, TENSOR_INTEGER>;
 
@@ -82,7 +70,6 @@ static_assert(ROWS_ARE_SOUND(MESH_ROWS));
 } // namespace
 
 const COMMAND_SET PROGRAM_SET{"", PROGRAM_ROWS};
-const COMMAND_SET IMAGE_SET{"image.", IMAGE_ROWS};
 const COMMAND_SET TENSOR_SET{"tensor.", TENSOR_ROWS};
 const COMMAND_SET MESH_SET{"mesh.", MESH_ROWS};
 } // namespace morvane

@@ -4,6 +4,7 @@
 #include "support/capture.hpp"
 #include "support/scratch_folder.hpp"
 
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -16,7 +17,10 @@ struct PROGRAM_RUN {
     CAPTURE console;
     int status = -1;
 
+    // Image libraries are not searched for: what the system has installed changes no test.
     explicit PROGRAM_RUN(const std::vector<const char *> &options) {
+        ::setenv("MORVANE_FREEIMAGE", "", 1);
+        ::setenv("MORVANE_IMAGEMAGICK", "", 1);
         std::vector<const char *> arguments = {"morvane"};
         for (const char *option : options)
             arguments.push_back(option);

@@ -1,8 +1,8 @@
 #include "app/program.hpp"
 #include "foundation/base/number_text.hpp"
-#include "parameter_text.hpp"
 #include "script/engine/keywords_table.hpp"
 #include "script/engine/macro.hpp"
+#include "script/engine/row_parameters.hpp"
 #include "support/capture.hpp"
 #include "support/scratch_folder.hpp"
 
@@ -201,7 +201,7 @@ TEST_CASE("no command has the name of a keyword, and none begins as a declaratio
     });
 }
 
-TEST_CASE("every note is short, on one line and without a point at its end") {
+TEST_CASE("every note is short, on one line, without a point, and is understood alone") {
     const auto check = [](std::string_view note) {
         CHECK(!note.empty());
         CHECK(note.size() <= LONGEST_NOTE);
@@ -209,6 +209,8 @@ TEST_CASE("every note is short, on one line and without a point at its end") {
         CHECK_FALSE(note.ends_with('.'));
         CHECK_FALSE(note.starts_with(' '));
         CHECK_FALSE(note.ends_with(' '));
+        for (const std::string_view word : {"the same", "it ", "its ", "all of it", "all of these"})
+            CHECK_FALSE(note.starts_with(word)); // the help shows a note without its neighbours
     };
     EACH_ROW([&](const std::string &, const COMMAND_ROW &row) { check(row.note); });
     EACH_KEYWORD([&](const KEYWORD &keyword) { check(keyword.note); });

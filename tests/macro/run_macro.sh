@@ -26,7 +26,8 @@ cd "$scratch" || exit 1
 options=
 [ -f "$name.options" ] && options=$(cat "$name.options")
 # shellcheck disable=SC2086 # the options are words
-"$program" -strict +verbose $options "$name.macro" >all.txt 2>errors.txt </dev/null
+MORVANE_FREEIMAGE= MORVANE_IMAGEMAGICK= \
+    "$program" -strict +verbose $options "$name.macro" >all.txt 2>errors.txt </dev/null
 status=$?
 awk '/^Script runs\.\.\.$/ {on = 1}
     on {line[++count] = $0}

@@ -7,34 +7,12 @@ namespace {
 std::string BOLD(std::string_view text) { return "\\fB" + ROFF_TEXT(text) + "\\fR"; }
 std::string ITALIC(std::string_view text) { return "\\fI" + ROFF_TEXT(text) + "\\fR"; }
 
-std::string SEQUENCE_TEXT(const PARAMETER_SEQUENCE &sequence);
-
-std::string CHOICES_TEXT(const std::vector<PARAMETER_SEQUENCE> &choices) {
-    std::vector<std::string> texts;
-    for (const PARAMETER_SEQUENCE &choice : choices)
-        texts.push_back(SEQUENCE_TEXT(choice));
-    return JOINED(texts, " | ");
-}
-
-std::string PART_TEXT(const PARAMETER_PART &part) {
-    const std::string more = part.repeated ? " ..." : "";
-    if (part.GROUP()) return "[" + CHOICES_TEXT(part.choices) + more + "]";
-    return ITALIC(part.name) + more;
-}
-
-std::string SEQUENCE_TEXT(const PARAMETER_SEQUENCE &sequence) {
-    std::vector<std::string> texts;
-    for (const PARAMETER_PART &part : sequence)
-        texts.push_back(PART_TEXT(part));
-    return JOINED(texts, " ");
-}
-
 // "a := name x" for a function, "name x" for a procedure.
 std::string HEAD_OF(const REFERENCE_ENTRY &entry) {
     std::string head;
     if (entry.kind == COMMAND_KIND::FUNCTION) head = ITALIC("target") + " := ";
     head += BOLD(entry.name);
-    const std::string parameters = CHOICES_TEXT(entry.parameters.choices);
+    const std::string parameters = PARAMETER_SYNTAX(entry.parameters, ITALIC);
     if (!parameters.empty()) head += " " + parameters;
     if (entry.kind == COMMAND_KIND::LAMBDA) head += " (value)";
     if (entry.kind == COMMAND_KIND::PROPERTY) head += " (also a function)";

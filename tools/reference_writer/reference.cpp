@@ -8,6 +8,7 @@
 #include "script/module/use_all.hpp"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 
 namespace morvane {
@@ -95,6 +96,16 @@ REFERENCE_SECTION SECTION_OF(const COMMAND_SET &set) {
     return section;
 }
 
+// Sets of one namespace and subject are one section, at the place of the first.
+void ADD_SECTION(REFERENCE_SECTION section, std::vector<REFERENCE_SECTION> &sections) {
+    const auto same = std::ranges::find_if(sections, [&](const REFERENCE_SECTION &other) {
+        return other.title == section.title && other.nameSpace == section.nameSpace;
+    });
+    if (same == sections.end()) return sections.push_back(std::move(section));
+    same->entries.insert(same->entries.end(), std::make_move_iterator(section.entries.begin()),
+                         std::make_move_iterator(section.entries.end()));
+}
+
 REFERENCE_ENTRY ENTRY_OF(const KEYWORD &keyword) {
     return {
         std::string(keyword.word),  COMMAND_KIND::BLOCK,       PARSE_PARAMETERS(keyword.parameters),
@@ -143,9 +154,11 @@ REFERENCE MAKE_REFERENCE() {
     for (const KEYWORD &keyword : PREFIX_KEYWORDS())
         reference.prefixes.emplace_back(keyword.word);
     for (const COMMAND_SET *set : COMMAND_SETS())
-        if (!set->rows.empty()) reference.sections.push_back(SECTION_OF(*set));
+        if (!set->rows.empty()) ADD_SECTION(SECTION_OF(*set), reference.sections);
     for (const HELP_GROUP &group : HELP_GROUPS())
-        reference.groups.emplace_back(group.name);
+        if (std::ranges::find(HELP_ENTRIES(), group.name, &HELP_ENTRY::group) !=
+            HELP_ENTRIES().end())
+            reference.groups.emplace_back(group.name);
     reference.operators.emplace_back(":=");
     for (const std::string_view word : ASSIGNMENT_OPERATORS())
         reference.operators.emplace_back(word);

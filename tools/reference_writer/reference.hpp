@@ -1,7 +1,7 @@
 #pragma once
 
-#include "parameter_text.hpp"
 #include "script/engine/command_row.hpp"
+#include "script/engine/row_parameters.hpp"
 
 #include <string>
 #include <vector>

@@ -153,7 +153,7 @@ constexpr COMMAND_ROW ROWS[] = {
     PROCEDURE("draw", LINE_DRAW, EXACTLY(0), "", "line.draw",
               "the segments of each line, and the point of a line of one"),
     PROCEDURE("draw.solid", LINE_DRAW_SOLID, EXACTLY(0), "", "line.draw.solid",
-              "the same, three voxels thick"),
+              "the segments of each line, and the point of a line of one, three voxels thick"),
 };
 static_assert(ROWS_ARE_SOUND(ROWS));
 } // namespace

@@ -3,6 +3,7 @@
 #include "app/frame_handlers.hpp"
 #include "app/info_handlers.hpp"
 #include "app/scalar/scalar_handlers.hpp"
+#include "app/slice_handlers.hpp"
 #include "app/workspaces.hpp"
 #include "script/workspace/setting_handlers.hpp"
 
@@ -176,6 +177,26 @@ constexpr COMMAND_ROW ROWS[] = {
     PROCEDURE("fullscan", (SETTING<&SCALARS, &FIELD::fullScan>), EXACTLY(1), "on: flag",
               "scalar.fullscan 1", "a voxel with a line too short gets no direction"),
 
+    // Slices to the image in use and back.
+    PROCEDURE("xy", (SLICE_GET<&SCALARS, SLICE_PLANE::XY>), EXACTLY(1), "z: real", "scalar.xy 0",
+              "slice xy to the image in use; 0: the middle"),
+    PROCEDURE("xz", (SLICE_GET<&SCALARS, SLICE_PLANE::XZ>), EXACTLY(1), "y: real", "scalar.xz 0",
+              "slice xz to the image in use; 0: the middle"),
+    PROCEDURE("yz", (SLICE_GET<&SCALARS, SLICE_PLANE::YZ>), EXACTLY(1), "x: real", "scalar.yz 0",
+              "slice yz to the image in use; 0: the middle"),
+    PROCEDURE("copy.xy", (SLICE_GET<&SCALARS, SLICE_PLANE::XY>), EXACTLY(1), "z: real",
+              "scalar.copy.xy 0", "slice xy to the image in use; 0: the middle"),
+    PROCEDURE("copy.xz", (SLICE_GET<&SCALARS, SLICE_PLANE::XZ>), EXACTLY(1), "y: real",
+              "scalar.copy.xz 0", "slice xz to the image in use; 0: the middle"),
+    PROCEDURE("copy.yz", (SLICE_GET<&SCALARS, SLICE_PLANE::YZ>), EXACTLY(1), "x: real",
+              "scalar.copy.yz 0", "slice yz to the image in use; 0: the middle"),
+    PROCEDURE("insert.xy", (SLICE_PUT<&SCALARS, SLICE_PLANE::XY>), EXACTLY(1), "z: real",
+              "scalar.insert.xy 0", "the image in use into slice xy; 0: the middle"),
+    PROCEDURE("insert.xz", (SLICE_PUT<&SCALARS, SLICE_PLANE::XZ>), EXACTLY(1), "y: real",
+              "scalar.insert.xz 0", "the image in use into slice xz; 0: the middle"),
+    PROCEDURE("insert.yz", (SLICE_PUT<&SCALARS, SLICE_PLANE::YZ>), EXACTLY(1), "x: real",
+              "scalar.insert.yz 0", "the image in use into slice yz; 0: the middle"),
+
     // Lines.
     PROCEDURE("getskeleton", SCALAR_LINE_SKELETON, AT_MOST(1), "[range: range]",
               "scalar.getskeleton", "lines of a thin skeleton into the line cloud in use"),
@@ -195,13 +216,17 @@ constexpr COMMAND_ROW ROWS[] = {
               "scalar.diffusion 16",
               "direction of structure at each voxel into the vector field in use"),
     PROCEDURE("diffusion.x2", SCALAR_DIFFUSION_X2, EXACTLY(1), "radius: number voxels",
-              "scalar.diffusion.x2 16", "the same at every second voxel"),
+              "scalar.diffusion.x2 16",
+              "direction of structure at every second voxel into the vector field in use"),
     PROCEDURE("diffusion.x3", SCALAR_DIFFUSION_X3, EXACTLY(1), "radius: number voxels",
-              "scalar.diffusion.x3 16", "the same at every third voxel"),
+              "scalar.diffusion.x3 16",
+              "direction of structure at every third voxel into the vector field in use"),
     PROCEDURE("diffusion.x4", SCALAR_DIFFUSION_X4, EXACTLY(1), "radius: number voxels",
-              "scalar.diffusion.x4 16", "the same at every fourth voxel"),
+              "scalar.diffusion.x4 16",
+              "direction of structure at every fourth voxel into the vector field in use"),
     PROCEDURE("diffusion.x5", SCALAR_DIFFUSION_X5, EXACTLY(1), "radius: number voxels",
-              "scalar.diffusion.x5 16", "the same at every fifth voxel"),
+              "scalar.diffusion.x5 16",
+              "direction of structure at every fifth voxel into the vector field in use"),
     PROCEDURE("diffusion.adaptive.x2", SCALAR_DIFFUSION_ADAPTIVE_X2, EXACTLY(1),
               "radius: number voxels", "scalar.diffusion.adaptive.x2 16",
               "every second voxel, trying neighbours where there is no direction"),
@@ -218,6 +243,22 @@ constexpr COMMAND_ROW ROWS[] = {
               "report: file, [radius: number voxels, point: vector voxels, shift: vector voxels]",
               "scalar.diffusion.dump dump.txt 16 <32,32,32>",
               "all scan lines of one voxel as text"),
+    PROCEDURE("diffusion.map", SCALAR_DIFFUSION_MAP, OWN_COUNT,
+              "picture: file, [radius: number voxels, point: vector voxels, shift: vector voxels]",
+              "scalar.diffusion.map map.png 8 <32,32,32>",
+              "deviation of all scan lines of one voxel as pgm, tif or png"),
+    PROCEDURE("diffusion.colormap", SCALAR_DIFFUSION_COLORMAP, OWN_COUNT,
+              "picture: file, [radius: number voxels, point: vector voxels, shift: vector voxels]",
+              "scalar.diffusion.colormap colours.png 8 <32,32,32>",
+              "mean and deviation of all scan lines of one voxel, in grey and as colours"),
+    PROCEDURE("diffusion.histogram", SCALAR_DIFFUSION_HISTOGRAM, OWN_COUNT,
+              "chart: file, [point: vector voxels, shift: vector voxels]",
+              "scalar.diffusion.histogram lengths.svg <32,32,32>",
+              "how many directions tie at each scan length, at one voxel, as a chart"),
+    PROCEDURE("diffusion.sd", SCALAR_DIFFUSION_SD, OWN_COUNT,
+              "chart: file, [point: vector voxels, shift: vector voxels]",
+              "scalar.diffusion.sd ranges.svg <32,32,32>",
+              "mean and deviation of the lines at each scan length, at one voxel, as charts"),
 };
 static_assert(ROWS_ARE_SOUND(ROWS));
 } // namespace

@@ -3,6 +3,7 @@
 #include "foundation/base/rounding.hpp"
 #include "foundation/base/safe_arithmetic.hpp"
 #include "foundation/console/console.hpp"
+#include "image2d/filter/smooth_rows.hpp"
 
 #include <algorithm>
 #include <new>
@@ -10,113 +11,97 @@
 
 namespace morvane {
 namespace {
-using ROWSUM = std::uint32_t;
+// A pixel by its rule.
+template <class PIXEL> PIXEL PixelOf(MEAN_RULE rule, NAT c, NAT m) {
+    switch (rule) {
+    case MEAN_RULE::HALF: return static_cast<PIXEL>((c + m) / 2);
+    case MEAN_RULE::NINTH: return static_cast<PIXEL>((8 * c + m) / 9);
+    case MEAN_RULE::HALF_OF_MASK: return static_cast<PIXEL>(c == 0 ? 0 : (c + m) / 2);
+    case MEAN_RULE::SHARP:
+        return static_cast<PIXEL>(LIMIT(2 * c - m, NAT{0}, CANVAS<PIXEL>::MAXIMUM));
+    default: return static_cast<PIXEL>(m);
+    }
+}
 
-// How a filter makes its pixel of the centre c and the mean m.
-struct TAKE_MEAN {
-    static ROWSUM PIXEL(ROWSUM, ROWSUM m, ROWSUM) { return m; }
-};
-struct TAKE_HALF {
-    static ROWSUM PIXEL(ROWSUM c, ROWSUM m, ROWSUM) { return (c + m) / 2; }
-};
-struct TAKE_NINTH {
-    static ROWSUM PIXEL(ROWSUM c, ROWSUM m, ROWSUM) { return (8 * c + m) / 9; }
-};
-struct TAKE_HALF_OF_MASK {
-    static ROWSUM PIXEL(ROWSUM c, ROWSUM m, ROWSUM) { return c == 0 ? 0 : (c + m) / 2; }
-};
-struct TAKE_SHARP {
-    static ROWSUM PIXEL(ROWSUM c, ROWSUM m, ROWSUM maximum) {
-        const ROWSUM twice = 2 * c;
-        return twice < m ? 0 : std::min(twice - m, maximum);
+// The sums of the columns of one row over the rows around it.
+template <class PIXEL> struct COLUMNS {
+    std::vector<typename SMOOTH_ROWS<PIXEL>::COLUMN> sums;
+    NAT rows = 0; // 1 to 3
+
+    void READ(const SMOOTH_ROWS<PIXEL> &kernel, const CANVAS<PIXEL> &canvas, NAT y) {
+        const PIXEL *centre = canvas.ROW(y);
+        const PIXEL *above = y > 1 ? canvas.ROW(y - 1) : nullptr;
+        const PIXEL *below = y < canvas.HEIGHT ? canvas.ROW(y + 1) : nullptr;
+        rows = 1 + (above != nullptr) + (below != nullptr);
+        if (rows == 3) return kernel.sum(above, centre, below, sums.data(), canvas.WIDTH);
+        const PIXEL *other = above ? above : below;
+        for (std::size_t x = 0; x < sums.size(); ++x)
+            sums[x] = static_cast<typename SMOOTH_ROWS<PIXEL>::COLUMN>(
+                NAT{centre[x]} + (other ? NAT{other[x]} : NAT{0}));
     }
 };
 
-// A sum of 9 pixels divided by 9. The half lies farther from a whole ninth than the error of the
-// product, so that truncation is exact for every sum below 2^20, and the loop has no division.
-ROWSUM Ninth(ROWSUM sum) {
-    return static_cast<ROWSUM>(static_cast<std::int32_t>(
-        (static_cast<float>(static_cast<std::int32_t>(sum)) + 0.5F) * (1.0F / 9.0F)));
-}
-
-// The pixels `from..to` (from 0) of one row whose sums over the rows around it stand in `columns`;
-// `rows` is their count.
-template <class TAKE, class PIXEL>
-void FilterRow(const ROWSUM *columns, NAT rows, const PIXEL *centre, PIXEL *out, NAT width,
-               NAT from, NAT to) {
-    constexpr ROWSUM MAXIMUM = std::numeric_limits<PIXEL>::max();
+// The pixels `from` to `to` (from 0) of a row in place.
+template <class PIXEL>
+void FilterRow(const SMOOTH_ROWS<PIXEL> &kernel, MEAN_RULE rule, const COLUMNS<PIXEL> &columns,
+               PIXEL *row, NAT from, NAT to) {
+    const NAT width = static_cast<NAT>(columns.sums.size());
+    const auto *sums = columns.sums.data();
     const auto edge = [&](NAT x) {
-        ROWSUM sum = columns[x];
-        NAT count = 1;
-        if (x > 0) sum += columns[x - 1], ++count;
-        if (x + 1 < width) sum += columns[x + 1], ++count;
-        const ROWSUM mean = sum / static_cast<ROWSUM>(count * rows);
-        out[x] = static_cast<PIXEL>(TAKE::PIXEL(centre[x], mean, MAXIMUM));
+        NAT sum = sums[x], count = 1;
+        if (x > 0) sum += sums[x - 1], ++count;
+        if (x + 1 < width) sum += sums[x + 1], ++count;
+        row[x] = PixelOf<PIXEL>(rule, row[x], sum / (count * columns.rows));
     };
+    if (columns.rows < 3) {
+        for (NAT x = from; x <= to; ++x)
+            edge(x);
+        return;
+    }
     if (from == 0) edge(0);
     const NAT first = std::max<NAT>(from, 1), last = std::min(to, width - 2);
-    if (rows == 3)
-        for (NAT x = first; x <= last; ++x) {
-            const ROWSUM mean = Ninth(columns[x - 1] + columns[x] + columns[x + 1]);
-            out[x] = static_cast<PIXEL>(TAKE::PIXEL(centre[x], mean, MAXIMUM));
-        }
-    else
-        for (NAT x = first; x <= last; ++x)
-            edge(x);
+    if (first <= last)
+        kernel.take[static_cast<std::size_t>(rule)](sums + first, row + first, row + first,
+                                                    last - first + 1);
     if (to == width - 1 && to > 0) edge(to);
 }
 
-// In place, with copies of the two rows that are overwritten before their last use.
-template <class TAKE, class PIXEL> void Filter(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
+// In place: the columns of the next row are summed before this row changes.
+template <class PIXEL> void Filter(MEAN_RULE rule, CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
     const PIXEL_AREA inside = canvas.LIMITED(area);
     if (inside.EMPTY()) return;
-    const NAT width = canvas.WIDTH;
-    const auto length = static_cast<std::size_t>(width);
-    std::vector<PIXEL> above, centre;
-    std::vector<ROWSUM> columns;
+    COLUMNS<PIXEL> columns, next;
     try {
-        above.resize(length), centre.resize(length), columns.resize(length);
+        columns.sums.resize(static_cast<std::size_t>(canvas.WIDTH));
+        next.sums.resize(static_cast<std::size_t>(canvas.WIDTH));
     } catch (const std::bad_alloc &) {
         WRITELN("  Out of memory! Filter not applied.");
         return;
     }
-    if (inside.top > 1) std::copy_n(canvas.ROW(inside.top - 1), width, above.begin());
+    const SMOOTH_ROWS<PIXEL> &kernel = FASTEST_ROWS<PIXEL>();
+    columns.READ(kernel, canvas, inside.top);
     for (NAT y = inside.top; y <= inside.bottom; ++y) {
-        PIXEL *row = canvas.ROW(y);
-        std::copy_n(row, width, centre.begin());
-        std::fill(columns.begin(), columns.end(), 0);
-        const PIXEL *const middle = centre.data();
-        ROWSUM *const sums = columns.data();
-        NAT rows = 1;
-        for (NAT x = 0; x < width; ++x)
-            sums[x] = middle[x];
-        const auto add = [&](const PIXEL *other) {
-            for (NAT x = 0; x < width; ++x)
-                sums[x] += other[x];
-            ++rows;
-        };
-        if (y > 1) add(above.data());
-        if (y < canvas.HEIGHT) add(canvas.ROW(y + 1));
-        FilterRow<TAKE>(sums, rows, middle, row, width, inside.left - 1, inside.right - 1);
-        std::swap(above, centre);
+        if (y < inside.bottom) next.READ(kernel, canvas, y + 1);
+        FilterRow(kernel, rule, columns, canvas.ROW(y), inside.left - 1, inside.right - 1);
+        std::swap(columns, next);
     }
 }
 } // namespace
 
 template <class PIXEL> void HARDSMOOTH(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
-    Filter<TAKE_MEAN>(canvas, area);
+    Filter(MEAN_RULE::MEAN, canvas, area);
 }
 template <class PIXEL> void SMOOTH(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
-    Filter<TAKE_HALF>(canvas, area);
+    Filter(MEAN_RULE::HALF, canvas, area);
 }
 template <class PIXEL> void SOFTSMOOTH(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
-    Filter<TAKE_NINTH>(canvas, area);
+    Filter(MEAN_RULE::NINTH, canvas, area);
 }
 template <class PIXEL> void SMOOTH0(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
-    Filter<TAKE_HALF_OF_MASK>(canvas, area);
+    Filter(MEAN_RULE::HALF_OF_MASK, canvas, area);
 }
 template <class PIXEL> void UNSHARPMASKING(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
-    Filter<TAKE_SHARP>(canvas, area);
+    Filter(MEAN_RULE::SHARP, canvas, area);
 }
 
 template <class PIXEL>
@@ -154,33 +139,30 @@ template <class PIXEL> NAT MEAN3(const CANVAS<PIXEL> &canvas, NAT x, NAT y) {
 }
 
 namespace {
-template <class TAKE, class PIXEL> void Filter(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
+template <class PIXEL> void Filter(MEAN_RULE rule, CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
     const PIXEL_AREA inside = canvas.LIMITED(area);
     CANVAS<PIXEL> source;
     if (!source.CLONE(canvas)) return;
     for (NAT y = inside.top; y <= inside.bottom; ++y)
-        for (NAT x = inside.left; x <= inside.right; ++x) {
-            const ROWSUM mean = static_cast<ROWSUM>(MEAN3(source, x, y));
-            const ROWSUM pixel = TAKE::PIXEL(source.GET(x, y), mean, CANVAS<PIXEL>::MAXIMUM);
-            canvas.PUT(x, y, static_cast<PIXEL>(pixel));
-        }
+        for (NAT x = inside.left; x <= inside.right; ++x)
+            canvas.PUT(x, y, PixelOf<PIXEL>(rule, source.GET(x, y), MEAN3(source, x, y)));
 }
 } // namespace
 
 template <class PIXEL> void HARDSMOOTH(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
-    Filter<TAKE_MEAN>(canvas, area);
+    Filter(MEAN_RULE::MEAN, canvas, area);
 }
 template <class PIXEL> void SMOOTH(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
-    Filter<TAKE_HALF>(canvas, area);
+    Filter(MEAN_RULE::HALF, canvas, area);
 }
 template <class PIXEL> void SOFTSMOOTH(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
-    Filter<TAKE_NINTH>(canvas, area);
+    Filter(MEAN_RULE::NINTH, canvas, area);
 }
 template <class PIXEL> void SMOOTH0(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
-    Filter<TAKE_HALF_OF_MASK>(canvas, area);
+    Filter(MEAN_RULE::HALF_OF_MASK, canvas, area);
 }
 template <class PIXEL> void UNSHARPMASKING(CANVAS<PIXEL> &canvas, const PIXEL_AREA &area) {
-    Filter<TAKE_SHARP>(canvas, area);
+    Filter(MEAN_RULE::SHARP, canvas, area);
 }
 } // namespace plain
 

@@ -74,6 +74,7 @@ void TIMAGE::DONE() {
     fullScan = false;
     diffusionAngle = 5 * PI / 180;
     diffusionMax = 0.25;
+    diffusionAxial = false;
 }
 
 namespace {

@@ -28,6 +28,7 @@ public:
     bool fullScan = false;              // a line that is too short makes its pixel zero
     REAL diffusionAngle = 5 * PI / 180; // radians
     REAL diffusionMax = 0.25;           // a share
+    bool diffusionAxial = false;        // angle images hold every axis, see orientation/scan
     UTF16CHARS7 NAME;                   // the file last loaded
 
     TIMAGE() = default;

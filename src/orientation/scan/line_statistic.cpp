@@ -32,14 +32,13 @@ NAT Sorted(NAT *samples, NAT count, NAT position) {
 
 REAL LINE_STATISTIC(BYTE subMethod, NAT *samples, NAT count) {
     if (count < 1) return 0;
-    const NAT odd = count % 2;
     switch (subMethod) {
     case 0: return static_cast<REAL>(Sum(samples, count));
     case 1: return NATMEAN(count, Sum(samples, count));
     case 3: return static_cast<REAL>(*std::min_element(samples, samples + count));
-    case 4: return static_cast<REAL>(Sorted(samples, count, count / 4 + odd));
-    case 5: return static_cast<REAL>(Sorted(samples, count, count / 2 + odd));
-    case 6: return static_cast<REAL>(Sorted(samples, count, count / 4 * 3 + odd));
+    case 4:
+    case 5:
+    case 6: return static_cast<REAL>(Sorted(samples, count, RANK_POSITION(subMethod, count)));
     case 7: return static_cast<REAL>(*std::max_element(samples, samples + count));
     default: return StandardDeviation(samples, count);
     }

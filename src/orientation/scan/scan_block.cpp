@@ -9,13 +9,11 @@
 
 namespace morvane {
 namespace {
-// The moment that stands for a statistic; false when there is none.
-bool GetMoment(BYTE subMethod, SCAN_MOMENT &moment) {
-    if (subMethod >= 3 && subMethod <= 7) return false;
-    moment = subMethod == 0   ? SCAN_MOMENT::SUM
-             : subMethod == 1 ? SCAN_MOMENT::MEAN
-                              : SCAN_MOMENT::VARIANCE;
-    return true;
+// What stands for a statistic.
+SCAN_MOMENT MomentOf(BYTE subMethod) {
+    if (IS_RANK(subMethod)) return SCAN_MOMENT::RANK;
+    if (subMethod == 0) return SCAN_MOMENT::SUM;
+    return subMethod == 1 ? SCAN_MOMENT::MEAN : SCAN_MOMENT::VARIANCE;
 }
 
 // The samples of a line in the tile, for the methods' own walk.
@@ -69,22 +67,15 @@ void SCAN_BLOCK::SCAN_TILE_ROW(NAT row, NAT columns, const BYTE *wanted, VECTOR 
     }
 }
 
-void SCAN_BLOCK::SCAN_GROUP(const GROUP &group) {
-    SCAN_MOMENT moment;
-    if (GetMoment(plan.settings.subMethod, moment))
-        SCAN_BY_MOMENT(group);
-    else
-        SCAN_BY_LINES(group);
-}
-
 // The approximate values find the candidates, which are then compared exactly.
-void SCAN_BLOCK::SCAN_BY_MOMENT(const GROUP &group) {
+void SCAN_BLOCK::SCAN_GROUP(const GROUP &group) {
     float best[SCAN_LANES], limits[SCAN_LANES];
     std::int32_t scanned[SCAN_LANES];
     SCAN_TASK task;
     task.centres = group.centres;
     task.lines = plan.lines;
-    static_cast<void>(GetMoment(plan.settings.subMethod, task.moment));
+    task.moment = MomentOf(plan.settings.subMethod);
+    task.statistic = plan.settings.subMethod;
     task.wanted = group.wanted;
     task.zeros = group.zeros;
     task.shift = tile.SHIFT();
@@ -96,6 +87,7 @@ void SCAN_BLOCK::SCAN_BY_MOMENT(const GROUP &group) {
     (tile.NARROW() ? kernel.narrow : kernel.wide)(task);
 
     const BYTE *lanes = tile.NARROW() ? kernel.narrowLanes : kernel.wideLanes;
+    if (task.moment == SCAN_MOMENT::RANK) lanes = plain::KERNEL.narrowLanes;
     for (NAT slot = 0; slot < SCAN_LANES; ++slot) {
         const bool asked = (group.wanted >> lanes[slot] & 1) != 0 && std::isfinite(best[slot]);
         limits[slot] = asked ? best[slot] * (1 + 4 * SCAN_TOLERANCE) : -1;
@@ -113,11 +105,6 @@ void SCAN_BLOCK::SCAN_BY_MOMENT(const GROUP &group) {
         if ((group.wanted >> lane & 1) == 0) continue;
         group.results[lane] = BEST_VECTOR(CENTRE(group, lane), slot, scanned[slot], best[slot]);
     }
-}
-
-void SCAN_BLOCK::SCAN_BY_LINES(const GROUP &group) {
-    for (NAT lane = 0; lane < SCAN_LANES; ++lane)
-        if (group.wanted >> lane & 1) group.results[lane] = WHOLE_SCAN(CENTRE(group, lane));
 }
 
 const void *SCAN_BLOCK::CENTRE(const GROUP &group, NAT lane) const {
@@ -142,7 +129,9 @@ VECTOR SCAN_BLOCK::BEST_VECTOR(const void *centre, NAT slot, NAT scanned, float 
     std::uint32_t *list = candidates.DATA() + slot * plan.lines.count;
     if (count == 1) return LONE_VECTOR(centre, list[0], scanned);
     SCAN_TIES ties{0, list, count, scanned};
-    if (best != 0) { // else every candidate is exactly 0
+    if (IS_RANK(plan.settings.subMethod)) {
+        ties.best = static_cast<REAL>(best); // exact, and so are all candidates
+    } else if (best != 0) {                  // else every candidate is exactly 0
         ties.best = WORST_VALUE;
         for (NAT i = 0; i < count; ++i) {
             const REAL value = VALUE(centre, list[i]);

@@ -25,8 +25,6 @@ private:
     };
     void SCAN_TILE_ROW(NAT row, NAT columns, const BYTE *wanted, VECTOR *results);
     void SCAN_GROUP(const GROUP &group);
-    void SCAN_BY_MOMENT(const GROUP &group);
-    void SCAN_BY_LINES(const GROUP &group);
     const void *CENTRE(const GROUP &group, NAT lane) const;
     // The vector of the centre in a slot from its candidates; `best`: its smallest approximation.
     VECTOR BEST_VECTOR(const void *centre, NAT slot, NAT scanned, float best);

@@ -1,8 +1,10 @@
 #include "orientation/scan/scan_kernel.hpp"
 
 #include "foundation/thread/processor.hpp"
+#include "orientation/scan/line_statistic.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <type_traits>
 
@@ -88,10 +90,45 @@ template <class STORED> void Finish(const SCAN_TASK &task, const SUMS<STORED> &s
     }
 }
 
+// The exact value of one lane by its run; `samples` has room for the line.
+template <class STORED>
+float RankOf(const SCAN_TASK &task, const STORED *centre, NAT k, STORED *samples) {
+    constexpr STORED ZERO = SUMS<STORED>::ZERO;
+    const std::int32_t *forward = task.lines.forward + task.lines.begins[k];
+    const std::int32_t *backward = task.lines.backward + task.lines.begins[k];
+    const NAT n = task.lines.begins[k + 1] - NAT{task.lines.begins[k]};
+    NAT s = 0, count = 0;
+    if (n > 0 && centre[forward[0]] == ZERO && centre[backward[0]] != ZERO) forward = backward;
+    while (s < n && centre[forward[s]] == ZERO)
+        ++s;
+    for (; s < n && centre[forward[s]] != ZERO; ++s)
+        samples[count++] = centre[forward[s]];
+    if (count < task.r || count < 1) return std::numeric_limits<float>::infinity();
+    const NAT position = RANK_POSITION(task.statistic, count);
+    if (position < 1) return 0;
+    std::nth_element(samples, samples + position - 1, samples + count);
+    return static_cast<float>(samples[position - 1] + task.shift);
+}
+
+template <class STORED> void Ranks(const SCAN_TASK &task) {
+    const STORED *centres = static_cast<const STORED *>(task.centres);
+    STORED samples[LONGEST_LINE];
+    for (NAT k = 0; k < task.lines.count; ++k)
+        for (NAT i = 0; i < SCAN_LANES; ++i) {
+            const bool wanted = (task.wanted >> i & 1) != 0;
+            const float value = wanted ? RankOf(task, centres + i, k, samples)
+                                       : std::numeric_limits<float>::infinity();
+            task.values[k * SCAN_LANES + i] = value;
+            task.best[i] = std::min(task.best[i], value);
+            task.scanned[i] += std::isfinite(value);
+        }
+}
+
 template <class STORED> void Lines(const SCAN_TASK &task) {
     const STORED *centres = static_cast<const STORED *>(task.centres);
     std::fill_n(task.best, SCAN_LANES, std::numeric_limits<float>::infinity());
     std::fill_n(task.scanned, SCAN_LANES, 0);
+    if (task.moment == SCAN_MOMENT::RANK) return Ranks<STORED>(task);
     SUMS<STORED> sums;
     for (NAT k = 0; k < task.lines.count; ++k) {
         const std::int32_t *forward = task.lines.forward + task.lines.begins[k];

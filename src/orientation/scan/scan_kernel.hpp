@@ -10,6 +10,9 @@
 namespace morvane {
 inline constexpr NAT SCAN_LANES = 32;
 
+// No line of a fast scan has more samples.
+inline constexpr NAT LONGEST_LINE = 160;
+
 // The stored value of a voxel that is zero, or outside the field.
 inline constexpr std::int8_t NARROW_ZERO = -128;  // all others lie in -127..127
 inline constexpr std::int16_t WIDE_ZERO = -32768; // all others lie in -32767..32767
@@ -26,13 +29,15 @@ struct LINE_OFFSETS {
     NAT count = 0;
 };
 
-// What is approximated. VARIANCE stands for the standard deviation: the same order, no root.
-enum class SCAN_MOMENT { VARIANCE, SUM, MEAN };
+// What is computed. VARIANCE stands for the standard deviation: the same order, no root. RANK is
+// one of the statistics 3 to 7 and exact.
+enum class SCAN_MOMENT { VARIANCE, SUM, MEAN, RANK };
 
 struct SCAN_TASK {
     const void *centres = nullptr; // the first of the 32 in the tile, int8 or int16
     LINE_OFFSETS lines;
     SCAN_MOMENT moment = SCAN_MOMENT::VARIANCE;
+    BYTE statistic = 5;       // of RANK
     std::uint32_t wanted = 0; // bit i: the i-th centre is asked for; the others give anything
     bool zeros = true;        // some voxel near may be zero
     NAT shift = 0;            // grey value = stored value + shift
@@ -50,14 +55,17 @@ struct SCAN_KERNEL {
     // masks[k]: the slots whose value of direction k is at most their limit.
     void (*select)(const float *values, NAT count, const float *limits,
                    std::uint32_t *masks) = nullptr;
-    const BYTE *narrowLanes = nullptr, *wideLanes = nullptr; // the centre of each slot, 0 to 31
+    // The centre of each slot, 0 to 31; of RANK slot i is centre i.
+    const BYTE *narrowLanes = nullptr, *wideLanes = nullptr;
 };
 
 namespace plain {
 extern const SCAN_KERNEL KERNEL;
 }
 namespace avx2 {
-extern const SCAN_KERNEL KERNEL; // in scan_kernel_avx2.cpp
-}
+extern const SCAN_KERNEL KERNEL;          // in scan_kernel_avx2.cpp
+void NARROW_RANKS(const SCAN_TASK &task); // its RANK, in scan_rank_avx2.cpp
+void WIDE_RANKS(const SCAN_TASK &task);
+} // namespace avx2
 const SCAN_KERNEL &FASTEST_SCAN_KERNEL(); // of this processor
 } // namespace morvane

@@ -61,6 +61,13 @@ struct LANES {
         else
             return {_mm256_sub_epi16(v, skip.NOT().v)};
     }
+    // The lanes whose count is another.
+    template <class STORED> LANES DIFFER(NAT count) const {
+        if constexpr (sizeof(STORED) == 1)
+            return LANES{_mm256_cmpeq_epi8(v, _mm256_set1_epi8(static_cast<char>(count)))}.NOT();
+        else
+            return LANES{_mm256_cmpeq_epi16(v, _mm256_set1_epi16(static_cast<short>(count)))}.NOT();
+    }
     // Counts of register j of the sums, as 32-bit numbers in the order of its slots.
     template <class STORED> __m256i COUNTS(NAT j) const {
         const __m256i zero = _mm256_setzero_si256();
@@ -72,6 +79,7 @@ struct LANES {
     LANES AND(LANES other) const { return {_mm256_and_si256(v, other.v)}; }
     LANES OR(LANES other) const { return {_mm256_or_si256(v, other.v)}; }
     LANES ANDNOT(LANES other) const { return {_mm256_andnot_si256(v, other.v)}; } // other, not this
+    LANES BLEND(LANES other, LANES mask) const { return {_mm256_blendv_epi8(v, other.v, mask.v)}; }
     LANES NOT() const { return {_mm256_xor_si256(v, ALL().v)}; }
     bool ANY() const { return !_mm256_testz_si256(v, v); }
     bool IS_ALL() const { return _mm256_testc_si256(v, ALL().v); }
@@ -237,20 +245,22 @@ void AddAll(SUMS &sums, const STORED *centres, const LINE &line) {
     sums.ADD(rows);
 }
 
-// The first run of non-zero samples of the lanes in `wanted`; their number is added to `counts`.
-template <class SUMS, class STORED>
-void AddRun(SUMS &sums, const STORED *centres, const std::int32_t *offsets, NAT n,
-            const LANES &wanted, LANES &counts) {
+// The first run of non-zero samples of the lanes in `wanted`, their number in `counts`. Lanes in
+// `back` walk from the far end; with BOTH false there are none.
+template <bool BOTH, class SUMS, class STORED>
+void AddRun(SUMS &sums, const STORED *centres, const LINE &line, const LANES &wanted,
+            const LANES &back, LANES &counts) {
     constexpr NAT STEP = SUMS::SAMPLES;
     LANES ended = wanted.NOT(), leading = LANES::ALL();
     LANES rows[std::size_t{STEP}];
-    for (NAT s = 0; s < n; s += STEP) {
+    for (NAT s = 0; s < line.n; s += STEP) {
         Unroll<STEP>([&](auto i) {
-            if (s + i >= n) {
+            if (s + i >= line.n) {
                 rows[i] = LANES{};
                 return;
             }
-            const LANES x = LANES::LOAD(centres + offsets[s + i]);
+            LANES x = LANES::LOAD(centres + line.forward[s + i]);
+            if constexpr (BOTH) x = x.BLEND(LANES::LOAD(centres + line.backward[s + i]), back);
             const LANES zero = x.template ZEROS<STORED>();
             leading = leading.AND(zero);
             const LANES skip = ended.OR(zero);
@@ -269,9 +279,10 @@ void AddRuns(SUMS &sums, const STORED *centres, const LINE &line, const LANES &w
     const LANES zero1 = LANES::LOAD(centres + line.forward[0]).template ZEROS<STORED>();
     const LANES zero2 = LANES::LOAD(centres + line.backward[0]).template ZEROS<STORED>();
     const LANES back = zero2.ANDNOT(zero1).AND(wanted);
-    const LANES front = back.ANDNOT(wanted);
-    if (front.ANY()) AddRun(sums, centres, line.forward, line.n, front, counts);
-    if (back.ANY()) AddRun(sums, centres, line.backward, line.n, back, counts);
+    if (back.ANY())
+        AddRun<true>(sums, centres, line, wanted, back, counts);
+    else
+        AddRun<false>(sums, centres, line, wanted, back, counts);
 }
 
 const float INFINITE = std::numeric_limits<float>::infinity();
@@ -313,15 +324,17 @@ void FinishRuns(const SCAN_TASK &task, const SUMS &sums, NAT k, const LANES &cou
 template <class SUMS, class STORED> void Lines(const SCAN_TASK &task, NAT first) {
     const STORED *centres = static_cast<const STORED *>(task.centres) + first;
     const LANES wanted = LANES::MASK<STORED>(task.wanted >> first);
-    int whole = 0; // directions long enough for every lane
+    int whole = 0;       // directions long enough for every lane
+    bool sparse = false; // the line before had zeros, so this one is likely to have some
     for (NAT k = 0; k < task.lines.count; ++k) {
         const LINE line = GetLine(task.lines, k);
         SUMS sums;
         if (line.n < task.r || line.n < 1) {
             FinishShort(task, k, first, SUMS::GROUPS);
-        } else if (task.zeros && AnyZero(centres, line, wanted)) {
+        } else if (task.zeros && (sparse || AnyZero(centres, line, wanted))) {
             LANES counts;
             AddRuns(sums, centres, line, wanted, counts);
+            sparse = counts.template DIFFER<STORED>(line.n).AND(wanted).ANY();
             FinishRuns<SUMS, STORED>(task, sums, k, counts, first);
         } else {
             AddAll(sums, centres, line);
@@ -342,12 +355,14 @@ void Clear(const SCAN_TASK &task) {
 
 void Narrow(const SCAN_TASK &task) {
     Clear(task);
+    if (task.moment == SCAN_MOMENT::RANK) return avx2::NARROW_RANKS(task);
     Lines<NARROW_SUMS, std::int8_t>(task, 0);
 }
 
 // Pairs of squares add up in 32 bits as long as no line can overflow them.
 void Wide(const SCAN_TASK &task) {
     Clear(task);
+    if (task.moment == SCAN_MOMENT::RANK) return avx2::WIDE_RANKS(task);
     NAT longest = 0;
     for (NAT k = 0; k < task.lines.count; ++k)
         longest = std::max(longest, task.lines.begins[k + 1] - NAT{task.lines.begins[k]});

@@ -4,6 +4,7 @@
 #include "orientation/scan/hemisphere.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace morvane {
 namespace {
@@ -58,9 +59,9 @@ TILE_SHAPE GetShape(const EXTENT &extent, NAT factor, NAT columns, NAT rows) {
 }
 
 // The largest tile below the limit: fewer rows first, then fewer columns.
-TILE_SHAPE ChooseShape(const EXTENT &extent, NAT factor, NAT width) {
+TILE_SHAPE ChooseShape(const EXTENT &extent, NAT factor, NAT width, NAT mostRows) {
     NAT columns = std::min((width + SCAN_LANES - 1) / SCAN_LANES * SCAN_LANES, MOST_COLUMNS);
-    NAT rows = MOST_ROWS;
+    NAT rows = mostRows;
     TILE_SHAPE shape = GetShape(extent, factor, columns, rows);
     while (shape.ELEMENTS() > TILE_LIMIT && (rows > 1 || columns > SCAN_LANES)) {
         if (rows > 1)
@@ -81,11 +82,21 @@ NAT TILE_SHAPE::OFFSET(const VECTORNAT &move) const {
 SCAN_PLAN::SCAN_PLAN(const SCAN_SETTINGS &scanSettings, NAT length, NAT step, NAT width, bool fast)
     : r(length), factor(step), settings(scanSettings) {
     _GETHEMISPHERE(directions.points, directions.vectors, r);
-    if (!fast || r > LONGEST_RADIUS || directions.points.LENGTH < 1 || width < 1) return;
-    if (!MAKE_LONE() || !MAKE_LINES(width)) lines = LINE_OFFSETS{};
+    if (fast) MAKE_TABLES(width, MOST_ROWS);
 }
 
-bool SCAN_PLAN::MAKE_LINES(NAT width) {
+SCAN_PLAN::SCAN_PLAN(const SCAN_SETTINGS &scanSettings, SCAN_DIRECTIONS scanDirections, NAT length,
+                     NAT width, bool fast)
+    : r(length), settings(scanSettings), directions(std::move(scanDirections)) {
+    if (fast) MAKE_TABLES(width, 1);
+}
+
+void SCAN_PLAN::MAKE_TABLES(NAT width, NAT mostRows) {
+    if (r > LONGEST_RADIUS || directions.points.LENGTH < 1 || width < 1) return;
+    if (!MAKE_LONE() || !MAKE_LINES(width, mostRows)) lines = LINE_OFFSETS{};
+}
+
+bool SCAN_PLAN::MAKE_LINES(NAT width, NAT mostRows) {
     const NAT count = directions.points.LENGTH;
     EXTENT extent;
     NAT samples = 0;
@@ -95,9 +106,10 @@ bool SCAN_PLAN::MAKE_LINES(NAT width) {
             extent.ADD(walks.FORWARD(i));
             extent.ADD(walks.BACKWARD(i));
         }
+        if (walks.samples > LONGEST_LINE) return false;
         samples += walks.samples;
     }
-    shape = ChooseShape(extent, factor, width);
+    shape = ChooseShape(extent, factor, width, mostRows);
     if (shape.ELEMENTS() > TILE_LIMIT) return false;
     if (!forward.INIT(samples) || !backward.INIT(samples) || !begins.INIT(count + 1)) return false;
     NAT at = 0;

@@ -34,6 +34,9 @@ public:
 
     // `width`: centres in a row. With `fast` false only the directions are made.
     SCAN_PLAN(const SCAN_SETTINGS &settings, NAT r, NAT factor, NAT width, bool fast = true);
+    // Of an image, a volume of one slice, scanned row by row; the directions have z 0.
+    SCAN_PLAN(const SCAN_SETTINGS &settings, SCAN_DIRECTIONS directions, NAT r, NAT width,
+              bool fast = true);
     // The tables stand; they do not for lengths whose tiles would be too large, and when memory
     // ran out: such a scan takes the plain road.
     bool FAST() const { return lines.count > 0; }
@@ -42,7 +45,8 @@ public:
     const VECTOR &LONE(NAT direction) const { return lone[direction]; }
 
 private:
-    bool MAKE_LINES(NAT width);
+    void MAKE_TABLES(NAT width, NAT mostRows);
+    bool MAKE_LINES(NAT width, NAT mostRows);
     bool MAKE_LONE();
     SCAN_BUFFER<std::int32_t> forward, backward;
     SCAN_BUFFER<std::uint32_t> begins;

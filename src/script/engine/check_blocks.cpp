@@ -25,14 +25,6 @@ bool IsUnknownToSkip(std::string_view word) {
     return OneOf(word, {"for.part", "for.random", "ofnot", "sub"});
 }
 
-CHECK_LINE PlaceOf(const CHECK_LINE &line) {
-    CHECK_LINE place;
-    place.place = line.place;
-    place.order = line.order;
-    place.column = line.column;
-    return place;
-}
-
 // "for of line 3", with the file when it is another one.
 std::string Named(const std::string &word, const CHECK_LINE &head, const CHECK_LINE &from) {
     const auto split = [](const std::string &place) {
@@ -55,7 +47,7 @@ bool CHECK_BLOCKS::OPENS(const LINE_PART &part) {
 CHECK_BLOCKS::BLOCK &CHECK_BLOCKS::Push(const CHECK_LINE &line, bool text) {
     BLOCK block;
     block.word = std::string(line.part->keyword->word);
-    block.head = PlaceOf(line);
+    block.head = PLACE_OF(line);
     block.context = CONTEXT();
     block.context.inBlock = true;
     block.text = text;
@@ -85,7 +77,7 @@ void CHECK_BLOCKS::OPEN(const CHECK_LINE &line) {
 void CHECK_BLOCKS::OPEN_TEXT(const CHECK_LINE &line) {
     BLOCK &around = stack.back();
     if (around.stores && !around.opener)
-        around.opener.emplace(PlaceOf(line), std::string(line.part->keyword->word));
+        around.opener.emplace(PLACE_OF(line), std::string(line.part->keyword->word));
     Push(line, true);
 }
 

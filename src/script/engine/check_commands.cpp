@@ -1,8 +1,8 @@
 #include "script/engine/check_commands.hpp"
 
-#include "script/engine/check_parameters.hpp"
 #include "script/engine/expression.hpp"
 #include "script/engine/keywords_table.hpp"
+#include "script/engine/row_parameters.hpp"
 
 #include <algorithm>
 
@@ -23,11 +23,13 @@ std::string Parameters(NAT count) {
 
 // The counts that a keyword takes; most of them pass over what is too much.
 PARAMETER_COUNT CountOf(const KEYWORD &keyword) {
-    PARAMETER_COUNT count = COUNT_OF(keyword.parameters);
+    PARAMETER_COUNT count = COUNT_OF(PARSE_PARAMETERS(keyword.parameters));
     const std::string_view word = keyword.word;
     if (word == "with") count.least = 0; // then it is a plain block
     const bool strict = word == "case" || word.ends_with("filesize") || word.starts_with("for");
-    if (!strict) count.most = word == "parallel" ? 3 : -1; // which takes a step as for does
+    if (!strict)
+        count.most =
+            word == "parallel" ? 3 : PARAMETER_COUNT::UNLIMITED; // which takes a step as for does
     return count;
 }
 
@@ -47,7 +49,8 @@ bool EndsAsFile(std::string_view word) {
 }
 } // namespace
 
-void CHECK_COMMANDS::CHECK(const std::vector<CHECK_LINE> &lines) {
+void CHECK_COMMANDS::CHECK(const std::vector<CHECK_LINE> &lines,
+                           const std::vector<MISSING_FILE> &missing) {
     std::vector<CALL> calls;
     calls.reserve(lines.size());
     for (const CHECK_LINE &line : lines) {
@@ -58,6 +61,8 @@ void CHECK_COMMANDS::CHECK(const std::vector<CHECK_LINE> &lines) {
         CheckLine(lines[i], calls[i]);
         files.CHECK(lines[i], calls[i].Row(), calls[i].tokens);
     }
+    for (const MISSING_FILE &miss : missing)
+        files.CHECK(miss);
 }
 
 CHECK_COMMANDS::CALL CHECK_COMMANDS::Find(const CHECK_LINE &line) const {
@@ -111,7 +116,7 @@ void CHECK_COMMANDS::CheckKeyword(const CHECK_LINE &line, const CALL &call) {
     const NAT given = static_cast<NAT>(call.tokens.size());
     if (call.certain && given < count.least)
         findings.PUT(line, word + " needs at least " + Parameters(count.least));
-    if (call.certain && count.most >= 0 && given > count.most)
+    if (call.certain && given > count.most)
         findings.PUT(line, word + " takes at most " + Parameters(count.most));
     CheckNames(line, call);
 }
@@ -177,8 +182,8 @@ void CHECK_COMMANDS::CheckTarget(const CHECK_LINE &line, const CALL &call) {
     TellTaken(line, line.column, target);
 }
 
-// Behind ":=" every word that is no function is a text. One that names a procedure, or misses a
-// function by a letter or two, is surely none.
+// Behind ":=" every word that is no function is a text. One that names a procedure, misses a
+// function by a letter or two, or stands under a namespace of the program, is surely none.
 void CHECK_COMMANDS::CheckValue(const CHECK_LINE &line, const LINE_PART &value) {
     if (names.IS_OPEN() || value.atWord || POS(".", value.word) == 0) return;
     const std::string word = GETUTF8(value.word);
@@ -194,11 +199,14 @@ void CHECK_COMMANDS::CheckValue(const CHECK_LINE &line, const LINE_PART &value) 
                             word + " is a procedure, not a function: this line stores its name");
     const std::vector<std::string> nearest = names.NEAREST_VALUES(word);
     constexpr std::size_t SLIP = 2;
-    if (nearest.empty() || SPELLING_DISTANCE(word, nearest.front(), SLIP) > SLIP) return;
+    const bool isSlip = !nearest.empty() && SPELLING_DISTANCE(word, nearest.front(), SLIP) <= SLIP;
+    if (!isSlip && !names.IN_NAMESPACE(word)) return;
     std::string list;
     for (const std::string &name : nearest)
-        list += (list.empty() ? "" : ", ") + name;
-    findings.PUT(line, column, "unknown function " + word + "; nearest: " + list);
+        list += (list.empty() ? "; nearest: " : ", ") + name;
+    findings.PUT(line, column,
+                 "unknown function " + word +
+                     (list.empty() ? ": this line stores its name" : list));
 }
 
 void CHECK_COMMANDS::CheckProcedure(const CHECK_LINE &line, const CALL &call) {
@@ -208,8 +216,11 @@ void CHECK_COMMANDS::CheckProcedure(const CHECK_LINE &line, const CALL &call) {
     if (line.context.inBody && names.WITH_PROCEDURE(part.word)) return;
     const UTF16 name = WithPrefix(line, part.word);
     const std::string text = "unknown procedure " + GETUTF8(name);
-    if (part.rest.IS(1, '=') || part.rest.IS(1, ':') || POS(":=", part.word) > 0)
+    const bool hasSign = POS("=", part.word) > 0 || part.rest.IS(1, '=') || part.rest.IS(1, ':');
+    if (hasSign || IsOperator(GETUTF8(part.rest)))
         return findings.PUT(line, text + "; an assignment is written name := value");
+    if (POS("\t", part.word) > 0)
+        return findings.PUT(line, text + "; only a blank parts a command from its parameters");
     findings.PUT(line, text + names.PROCEDURE_HINT(name));
 }
 

@@ -9,7 +9,7 @@ public:
     CHECK_COMMANDS(CHECK_NAMES &nameList, CHECK_FINDINGS &list)
         : names(nameList), findings(list), files(nameList, list) {}
 
-    void CHECK(const std::vector<CHECK_LINE> &lines);
+    void CHECK(const std::vector<CHECK_LINE> &lines, const std::vector<MISSING_FILE> &missing);
 
 private:
     // What a line calls: its row if it is one of the program's, and its parameters.

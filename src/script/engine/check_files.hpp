@@ -17,6 +17,7 @@ public:
     void GATHER(const CHECK_LINE &line, const COMMAND_ROW *row, const std::vector<TOKEN> &tokens);
     // Behind all of GATHER: a file that a load command names and that isn't there.
     void CHECK(const CHECK_LINE &line, const COMMAND_ROW *row, const std::vector<TOKEN> &tokens);
+    void CHECK(const MISSING_FILE &miss); // the same of a file of lines
 
 private:
     static constexpr std::size_t NEVER = static_cast<std::size_t>(-1);
@@ -27,6 +28,7 @@ private:
     const CHECK_NAMES &names;
     CHECK_FINDINGS &findings;
     std::unordered_map<std::string, std::size_t> mentions; // first line that names the file
+    std::unordered_map<std::string, std::size_t> made;     // the same of lines that make files
     std::unordered_map<std::string, bool> existing;
     std::size_t unknownFrom = NEVER; // first line that may make any file
 };

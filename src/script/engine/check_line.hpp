@@ -27,6 +27,23 @@ struct CHECK_LINE {
     CHECK_CONTEXT context;
 };
 
+// The place of a line and what holds there, without its words.
+inline CHECK_LINE PLACE_OF(const CHECK_LINE &line) {
+    CHECK_LINE place;
+    place.place = line.place;
+    place.order = line.order;
+    place.column = line.column;
+    place.context = line.context;
+    return place;
+}
+
+// A file that a line would read as lines of the script, and that isn't there.
+struct MISSING_FILE {
+    CHECK_LINE line; // its place, with the column of the name
+    UTF16 file;
+    std::string_view word; // "import" or "include"
+};
+
 // Where a word stands in a text, from a column on; the column itself when it doesn't.
 inline NAT COLUMN_OF(const UTF16 &word, const UTF16 &text, NAT from) {
     const NAT found = word.EMPTY() ? 0 : POS(word, text, from);

@@ -32,8 +32,10 @@ std::string VariableName(const UTF16 &name) {
 
 CHECK_NAMES::CHECK_NAMES(const CHECK_PROGRAM &program) {
     engine.INIT();
-    for (const COMMAND_SET *set : program.sets)
+    for (const COMMAND_SET *set : program.sets) {
         engine.REGISTER(*set);
+        nameSpaces.emplace(set->nameSpace.substr(0, set->nameSpace.find('.')));
+    }
     for (NAT i = 1; i <= engine.COMMANDLENGTH(); ++i)
         exact.insert(GETUTF8(engine.GETCOMMAND(i).TEXT()));
     for (const std::string_view name : program.constants)
@@ -66,6 +68,11 @@ void CHECK_NAMES::ASSIGN(const UTF16 &name) {
 bool CHECK_NAMES::IS_VARIABLE(const UTF16 &name) const {
     const std::string text = VariableName(name);
     return variables.contains(text) || text.starts_with("parameter.");
+}
+
+bool CHECK_NAMES::IN_NAMESPACE(const std::string &name) const {
+    const std::size_t point = name.find('.');
+    return point != std::string::npos && point > 0 && nameSpaces.contains(name.substr(0, point));
 }
 
 // A script with very many prefixes is not followed into its bodies.

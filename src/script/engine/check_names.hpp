@@ -39,6 +39,8 @@ public:
     // The same with the script's own commands that hold at a line.
     bool IS_TAKEN(const std::string &name, std::size_t order) const;
     bool IS_VARIABLE(const UTF16 &name) const;
+    // Whether the name stands under a namespace of the program, as scalar.x does.
+    bool IN_NAMESPACE(const std::string &name) const;
 
     // "; nearest: a, b", or what the name is when it was used as another kind; empty for nothing.
     std::string PROCEDURE_HINT(const UTF16 &name);
@@ -57,7 +59,7 @@ private:
     void BuildIndex(std::optional<NAME_INDEX> &index, unsigned groups) const;
 
     mutable TMACRO engine; // holds the table and the rules of cutting; runs nothing
-    std::unordered_set<std::string> exact, variables;
+    std::unordered_set<std::string> exact, variables, nameSpaces;
     std::unordered_map<std::string, std::size_t> declared; // from which line on
     std::set<std::string> prefixes;
     bool open = false, prefixUnknown = false;

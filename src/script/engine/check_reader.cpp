@@ -162,11 +162,7 @@ void CHECK_READER::Import(const CHECK_LINE &line) {
     }
     if (!CHECK_NAMES::IS_CERTAIN(*line.part) || !names.IS_LITERAL(tokens[0])) return names.OPEN();
     const UTF16 path = IMPORT_PATH(chain.back(), tokens[0].text);
-    if (path.EMPTY()) {
-        names.OPEN(); // what it would have declared is not known
-        return findings.PUT(line, COLUMN_OF(tokens[0].text, line.text, line.column),
-                            "import file not found: " + GETUTF8(tokens[0].text));
-    }
+    if (path.EMPTY()) return Miss(line, tokens[0].text, "import");
     if (IS_CIRCLE(chain, path))
         return findings.PUT(line, "import in a circle: " + GETUTF8(CIRCLE_TEXT(chain, path)));
     Insert(line, path, JOIN::IMPORT);
@@ -179,17 +175,20 @@ void CHECK_READER::Include(const CHECK_LINE &line, const std::vector<TOKEN> &tok
     }
     const bool literal = CHECK_NAMES::IS_CERTAIN(*line.part) && names.IS_LITERAL(tokens[0]);
     if (!blocks.IN_PASSED() && !names.PROCEDURE("include"))
-        findings.PUT(line, "include stops the script behind it; import does not");
+        findings.PUT(line, "include stops the script here; import does not");
     if (!literal) return names.OPEN();
-    if (!FILEEXISTS(tokens[0].text)) {
-        names.OPEN();
-        return findings.PUT(line, COLUMN_OF(tokens[0].text, line.text, line.column),
-                            "include file not found: " + GETUTF8(tokens[0].text));
-    }
+    if (!FILEEXISTS(tokens[0].text)) return Miss(line, tokens[0].text, "include");
     if (IS_CIRCLE(chain, tokens[0].text))
         return findings.PUT(line,
                             "include in a circle: " + GETUTF8(CIRCLE_TEXT(chain, tokens[0].text)));
     Insert(line, tokens[0].text, JOIN::INCLUDE);
+}
+
+// What the file would have declared is not known; a line above may be about to make it.
+void CHECK_READER::Miss(const CHECK_LINE &line, const UTF16 &file, std::string_view word) {
+    names.OPEN();
+    missing.push_back({PLACE_OF(line), file, word});
+    missing.back().line.column = COLUMN_OF(file, line.text, line.column);
 }
 
 void CHECK_READER::Insert(const CHECK_LINE &line, const UTF16 &path, JOIN join) {

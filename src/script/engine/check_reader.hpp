@@ -13,6 +13,7 @@ public:
 
     bool READ(const UTF16 &file); // false: it cannot be read
     const std::vector<CHECK_LINE> &LINES() const { return lines; }
+    const std::vector<MISSING_FILE> &MISSING() const { return missing; }
 
 private:
     // How the lines of a file join those around them.
@@ -26,6 +27,7 @@ private:
     void Import(const CHECK_LINE &line);
     void Include(const CHECK_LINE &line, const std::vector<TOKEN> &tokens);
     void Insert(const CHECK_LINE &line, const UTF16 &path, JOIN join);
+    void Miss(const CHECK_LINE &line, const UTF16 &file, std::string_view word);
     void Gather(const CHECK_LINE &line);
     void GatherKeyword(const CHECK_LINE &line);
     void OpenWith(const CHECK_LINE &line);
@@ -34,6 +36,7 @@ private:
     CHECK_FINDINGS &findings;
     CHECK_BLOCKS blocks;
     std::vector<CHECK_LINE> lines;
+    std::vector<MISSING_FILE> missing;
     std::vector<UTF16> chain; // files that led to the one being read
     std::size_t order = 0;
     NAT files = 0;

@@ -14,7 +14,7 @@ CHECK_RESULT Check(const UTF16 &file, const CHECK_PROGRAM &program) {
     CHECK_READER reader(names, findings);
     result.read = reader.READ(file);
     if (!result.read) return result;
-    CHECK_COMMANDS(names, findings).CHECK(reader.LINES());
+    CHECK_COMMANDS(names, findings).CHECK(reader.LINES(), reader.MISSING());
     result.findings = findings.LINES();
     return result;
 }

@@ -12,7 +12,7 @@ using enum KEYWORD_ROLE;
 // Deliberate: minimize, maximize, for.part, for.random, ofnot and sub open no skipped block.
 constexpr KEYWORD TABLE[] = {
     {"include", INCLUDE, false, nullptr, "file: file", "include part.macro",
-     "the lines of a file in place of this line; the script stops behind them"},
+     "put the lines of a file in place of this line and stop the script there; use import"},
     {"import", IMPORT, false, RUN_IMPORT, "file: file", "import part.macro",
      "the lines of a file in place of this line, carried out from the first one"},
     {"if.then", THEN, true, RUN_THEN, "[command: text ...]", "if.then print yes",
@@ -158,17 +158,18 @@ constexpr KEYWORD TABLE[] = {
     {"output.append", BLOCK, true, RUN_OUTPUT_APPEND, "file: file", "output.append out.txt",
      "a block whose print lines go to the end of a file"},
     {"store.space", BLOCK, false, RUN_STORE_SPACE, "[separator: text]", "store.space \";\"",
-     "what parts the values of a line in store blocks; without a parameter nothing"},
+     "what parts the values of a line in store and append blocks; without a parameter nothing"},
     {"store", BLOCK, true, RUN_STORE, "file: file", "store out.txt",
      "a block whose lines are the text of a new file"},
     {"append.space", BLOCK, false, RUN_STORE_SPACE, "[separator: text]", "append.space \";\"",
-     "what parts the values of a line in append blocks; without a parameter nothing"},
+     "what parts the values of a line in store and append blocks; without a parameter nothing"},
     {"append", BLOCK, true, RUN_APPEND, "file: file", "append out.txt",
      "a block whose lines are put at the end of a file"},
 };
 // Deliberate: any word that begins with var, local or global is that keyword.
 constexpr KEYWORD PREFIX_TABLE[] = {
-    {"var", BLOCK, false, DECLARE_VAR, "name: name ...", "var a b", "empty variables"},
+    {"var", BLOCK, false, DECLARE_VAR, "name: name ...", "var a b",
+     "make these variables empty, new ones where there are none"},
     {"local", BLOCK, false, DECLARE_LOCAL, "name: name, [value: text ...]", "local a 5",
      "a variable and its value"},
     {"global", BLOCK, false, DECLARE_GLOBAL, "name: name, [value: text ...]", "global a 5",

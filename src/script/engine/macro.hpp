@@ -80,6 +80,7 @@ public:
     void USE_TEXT();
     void USE_XML();
     void USE_TABLE();
+    void USE_COLOR();
     void USE_DUMP();
 
     // Running. A script is loaded between two runs, not by a line of the one that runs.

@@ -124,11 +124,11 @@ constexpr COMMAND_ROW COLOR_ROWS[] = {
     FUNCTION("getrgb", COLOR_GETRGB_REF, OWN_COUNT, COLOUR_PARAMETERS, "a := color.getrgb 0 100 37",
              "<r, g, b> of an entry, or of a value in low..high; 0..255 each"),
     FUNCTION("getrgb.hash", COLOR_GETRGB_HASH_REF, OWN_COUNT, COLOUR_PARAMETERS,
-             "a := color.getrgb.hash 1", "the same as #RRGGBB"),
+             "a := color.getrgb.hash 1", "colour of an entry or of a value as #RRGGBB"),
     FUNCTION("getrgba", COLOR_GETRGBA_REF, OWN_COUNT, COLOUR_PARAMETERS,
              "a := color.getrgba <0,100> 37", "<r, g, b, alpha>; 0..255 each"),
     FUNCTION("getrgba.hash", COLOR_GETRGBA_HASH_REF, OWN_COUNT, COLOUR_PARAMETERS,
-             "a := color.getrgba.hash 1", "the same as #RRGGBBAA"),
+             "a := color.getrgba.hash 1", "colour of an entry or of a value as #RRGGBBAA"),
 };
 static_assert(ROWS_ARE_SOUND(COLOR_ROWS));
 } // namespace

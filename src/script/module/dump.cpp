@@ -146,7 +146,8 @@ constexpr COMMAND_ROW ROWS[] = {
     PROCEDURE("stack", DUMP_STACK, OWN_COUNT, "", "dump.stack", "kinds of the open blocks"),
     PROCEDURE("undo", DUMP_REDO_UNDO, OWN_COUNT, "", "dump.undo", "the two history lists"),
     PROCEDURE("redo", DUMP_REDO_UNDO, OWN_COUNT, "", "dump.redo", "the two history lists"),
-    PROCEDURE("all", DUMP_EVERYTHING, OWN_COUNT, "", "dump.all", "all of these in order"),
+    PROCEDURE("all", DUMP_EVERYTHING, OWN_COUNT, "", "dump.all",
+              "all the dumps of the engine in order"),
 };
 static_assert(ROWS_ARE_SOUND(ROWS));
 } // namespace

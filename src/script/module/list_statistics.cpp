@@ -35,6 +35,11 @@ template <class STORED> NAT ExtremeLength(const STORED &stored, bool shortest) {
     return found - values.begin() + 1;
 }
 
+// By bytes: infinite values end as what is no number, which never equals itself.
+template <class VALUES> bool IsSettled(const VALUES &before, const VALUES &values) {
+    return std::ranges::equal(std::as_bytes(before.SPAN()), std::as_bytes(values.SPAN()));
+}
+
 // What an inlier is at least and at most, by component.
 struct INLIER_RANGE {
     HYPER low, high;
@@ -128,7 +133,7 @@ bool TLIST::SMOOTH(NAT passes) {
                 const bool looks = pass % SETTLING_PASSES == 0;
                 if (looks) before.REPLACE(values);
                 values.SMOOTH();
-                if (looks && std::ranges::equal(before.SPAN(), values.SPAN())) break;
+                if (looks && IsSettled(before, values)) break;
             }
             return true;
         } else {

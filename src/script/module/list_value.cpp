@@ -13,8 +13,9 @@ UTF16 Component(std::initializer_list<REAL> components, NAT part) {
 }
 
 // The shortest digits that read back equal, with the point of FORMAT. The readers know no name
-// for infinity, but a product beyond the range gives it.
+// for infinity, but a product beyond the range gives it; what is no number is 0, as it is shown.
 std::string Digits(REAL value) {
+    if (std::isnan(value)) return "0";
     if (std::isinf(value)) return value < 0 ? "-1e308*10" : "1e308*10";
     std::array<char, 32> buffer{};
     char *const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;

@@ -61,13 +61,10 @@ void MATH_DECIMAL(TMACRO *engine) {
 
 // f of each parameter and of the count of its numbers, joined with a blank.
 template <UTF16 (*F)(const HYPER &, NAT)> void EACH_REF(TMACRO *engine) {
-    UTF16 joined;
-    for (NAT i = 1; i <= engine->PARAMETERLENGTH(); ++i) {
-        const UTF16 text = engine->GETPARAMETER(i);
-        if (i > 1) joined += " ";
-        joined += F(GETHYPER(text), COUNT_NUMBERS(text, 4));
-    }
-    engine->COMMAND_RESULT = joined;
+    std::vector<UTF16> results;
+    for (const UTF16 &text : ALL_PARAMETERS(engine))
+        results.push_back(F(GETHYPER(text), COUNT_NUMBERS(text, 4)));
+    engine->COMMAND_RESULT = JOIN_RESULTS(results);
 }
 
 // Only the components that were given count: the missing ones of a vector are no zeros here, or

@@ -144,12 +144,10 @@ void MATRIX_TRANSFORM_REF(TMACRO *engine) {
     if (!SPLIT_VECTORS(parameters, vectors, matrix))
         return engine->ERROR("vectors to transform stand before a matrix as text, one before "
                              "vectors or numbers");
-    UTF16 joined;
-    for (const UTF16 &vector : vectors) {
-        if (!joined.EMPTY()) joined += " ";
-        joined += Transformed(vector, matrix);
-    }
-    engine->COMMAND_RESULT = joined;
+    std::vector<UTF16> results;
+    for (const UTF16 &vector : vectors)
+        results.push_back(Transformed(vector, matrix));
+    engine->COMMAND_RESULT = JOIN_RESULTS(results);
 }
 
 constexpr std::string_view MATRIX = "matrix: text ...";

@@ -139,14 +139,25 @@ TEST_CASE("published colours stand at the ends of their maps") {
     CheckColour(map.GETRGBA(8), {102 / 255.0, 102 / 255.0, 102 / 255.0, 1});
 }
 
-TEST_CASE("the lightness of sequential maps runs in one direction") {
-    for (const char *builder : {"BW", "VIRIDIS", "MAGMA", "PLASMA", "INFERNO", "CIVIDIS", "MAKO",
-                                "ROCKET", "BLACKBLUEANDWHITE", "GR4L", "HOT"})
-        CHECK_MESSAGE(Direction(builder) == 1, builder);
-    for (const char *builder :
-         {"WB", "BLUES", "BUGN", "BUPU", "GNBU", "GREENS", "GREYS", "ORANGES", "ORRD", "PUBU",
-          "PUBUGN", "PURD", "PURPLES", "RDPU", "REDS", "YLGN", "YLGNBU", "YLORBR", "YLORRD"})
-        CHECK_MESSAGE(Direction(builder) == -1, builder);
+TEST_CASE("the lightness of sequential maps runs in one direction, of all others in both") {
+    const std::set<std::string_view> rising = {"BW",         "VIRIDIS",    "MAGMA",
+                                               "PLASMA",     "INFERNO",    "CIVIDIS",
+                                               "MAKO",       "ROCKET",     "BLACKBLUEANDWHITE",
+                                               "GR4L",       "HOT",        "WARM",
+                                               "COOL",       "BONE",       "CT_BONES",
+                                               "CT_KIDNEYS", "CT_VESSELS", "ELECTRICBLUE",
+                                               "GOLD",       "HOTIRON",    "REDYELLOW1",
+                                               "REDYELLOW2", "SURFACE",    "IMHOF"};
+    const std::set<std::string_view> falling = {
+        "WB",      "BLUES", "BUGN",   "BUPU",   "GNBU",   "GREENS",     "GREYS",
+        "ORANGES", "ORRD",  "PUBU",   "PUBUGN", "PURD",   "PURPLES",    "RDPU",
+        "REDS",    "YLGN",  "YLGNBU", "YLORBR", "YLORRD", "ISLEOFDOGS2"};
+    for (const COLORMAP_FAMILY &family : COLORMAP_FAMILIES())
+        for (const COLORMAP_ROW &row : family.rows)
+            CHECK_MESSAGE(Direction(row.builder) == (rising.contains(row.builder)    ? 1
+                                                     : falling.contains(row.builder) ? -1
+                                                                                     : 0),
+                          row.builder);
 }
 
 TEST_CASE("alpha follows the table or the colour") {

@@ -204,7 +204,7 @@ TEST_CASE("behind an import that only the run knows any command may be known") {
 TEST_CASE("an include that runs is found, and one that is passed over is read") {
     const SCRATCH_FOLDER folder;
     SCRATCH_FOLDER::WRITE_TEXT("part", "for 2\nend\nprint 1\n");
-    const std::string stops = ": include stops the script behind it; import does not\n";
+    const std::string stops = ": include stops the script here; import does not\n";
     CHECK(FOUND("include part\n") ==
           "1:1" + stops + "part:2:1: end closes no block; the script ends here\n");
     CHECK(FOUND("include none\n") == "1:1" + stops + "1:9: include file not found: none\n");
@@ -237,6 +237,19 @@ TEST_CASE("a missing input file is found unless the script may make it") {
     CHECK(FOUND("n := x\nscalar.save n\nscalar.load none.nii\n").empty());
     CHECK(FOUND("n := a.nii\nscalar.load n\nscalar.load \"@n\"\nscalar.load *.nii\n").empty());
     CHECK(FOUND("scalar.load none\n").empty()); // may be a beginning of names
+}
+
+TEST_CASE("a writer of several files makes those that go on behind the name with no letter") {
+    const SCRATCH_FOLDER folder;
+    CHECK(FOUND("scalar.save bone.nii\nscalar.load bone-mean.nii\nscalar.load bone_03.nii\n"
+                "scalar.load data/bone7.nii\n")
+              .empty());
+    CHECK(FOUND("scalar.save bone.nii\nscalar.load bones.nii\n") ==
+          "2:13: file not found: bones.nii\n");
+    CHECK(FOUND("print bone.nii\nscalar.load bone-mean.nii\n") ==
+          "2:13: file not found: bone-mean.nii\n");
+    CHECK(FOUND("scalar.load bone-mean.nii\nscalar.save bone.nii\n") ==
+          "1:13: file not found: bone-mean.nii\n");
 }
 
 TEST_CASE("in a body the order of the lines says nothing about files") {

@@ -8,6 +8,7 @@
 #include <bit>
 #include <cmath>
 #include <initializer_list>
+#include <limits>
 #include <vector>
 
 #include <doctest/doctest.h>
@@ -112,6 +113,19 @@ TEST_CASE("whole numbers load equal while their digits are grouped on the consol
     const TLIST list = ListOf(LIST_NAT, {"1234567", "-9223372036854775807", "9223372036854775807"});
     CHECK(Saved(folder, list) == "1234567\n-9223372036854775807\n9223372036854775807\n");
     CHECK(Shown(Loaded(LIST_NAT)) == Shown(list));
+}
+
+TEST_CASE("what is no number is saved as the 0 that it is shown as") {
+    const SCRATCH_FOLDER folder;
+    const REAL none = std::numeric_limits<REAL>::quiet_NaN();
+    TLIST list;
+    list.PUSH(HYPER{none, 0, 0, 0});
+    list.PUSH(HYPER{-none, 0, 0, 0});
+    CHECK(Shown(list) == "0|0");
+    CHECK(Saved(folder, list) == "0\n0\n");
+    TLIST pairs(LIST_COMPLEX);
+    pairs.PUSH(HYPER{none, 2.5, 0, 0});
+    CHECK(Saved(folder, pairs) == "0, 2.5\n");
 }
 
 TEST_CASE("texts load equal, empty ones and blanks too") {

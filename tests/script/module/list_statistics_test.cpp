@@ -148,6 +148,12 @@ TEST_CASE("SMOOTH ends when a pass changes nothing any more") {
     CHECK(Shown(list) == "0|1|2");
 }
 
+TEST_CASE("SMOOTH ends where infinite values leave nothing to average") {
+    TLIST list = ListOf(LIST_REAL, {"1e308*10", "-1e308*10", "5", "1e308*10", "3"});
+    CHECK(list.SMOOTH(NATMAX));
+    CHECK(Shown(list) == "0|0|0|0|3");
+}
+
 TEST_CASE("SORT puts the smallest first, or last while FORMAT.SORTING is false") {
     const FORMAT_KEEPER keeper;
     struct ORDER {

@@ -111,6 +111,20 @@ TEST_CASE("norms and lengths of several vectors are joined with a blank") {
           "Parameter error! Please use min. one parameter in line 1 (test.macro).\n");
 }
 
+TEST_CASE("results that no longer fit a value are left out whole and told") {
+    MATH_RUN run;
+    std::string vectors, lengths;
+    for (int i = 0; i < 130; ++i)
+        vectors += " <3, 4>";
+    for (int i = 0; i < 127; ++i) // 127 digits with 126 blanks between are 253 units
+        lengths += i > 0 ? " 5" : "5";
+    CHECK(run.VALUE("math.length" + vectors) ==
+          "  A value holds only 127 of 130 results!\n" + lengths);
+    CHECK(run.VALUE("matrix.transform" + vectors + " (1,0,0;0,1,0;0,0,1)")
+              .starts_with("  A value holds only 25 of 130 results!\n<3, 4, 0> <3, 4, 0>"));
+    CHECK(run.engine.GETCONSTANTVALUE("v1").LENGTH() == 25 * 9 + 24);
+}
+
 TEST_CASE("math.angle is the angle of two vectors in radians") {
     MATH_RUN run;
     CHECK(GETREAL(run.VALUE("math.angle <1, 0> <0, 2>")) == doctest::Approx(PI / 2));
