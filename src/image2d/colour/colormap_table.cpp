@@ -1,6 +1,7 @@
 #include "image2d/colour/colormap_table.hpp"
 
-// Made by tools/make_colormap_table. A key is its position of 0..1 and red, green, blue, alpha of 0..255.
+// Made by tools/make_colormap_table. A key is its position of 0..1, then red, green, blue and alpha
+// of 0..255.
 // clang-format off
 namespace morvane {
 namespace {
