@@ -4,6 +4,7 @@
 #include "foundation/base/number_text.hpp"
 #include "foundation/base/random.hpp"
 #include "foundation/console/console.hpp"
+#include "image2d/colour/colormap.hpp"
 #include "script/engine/macro.hpp"
 #include "script/module/lists.hpp"
 #include "script/module/stack.hpp"
@@ -89,21 +90,24 @@ struct QUICK_SET {
 const std::vector<QUICK_SET> &QuickSets() {
     static const std::vector<QUICK_SET> sets = [] {
         std::vector<QUICK_SET> made;
-        for (const COMMAND_SET *set : {&CORE_SET, &RANDOM_SET, &CLOCK_SET, &LIST_SET, &MATH_SET,
-                                       &STACK_SET, &QUAT_SET, &MATRIX_SET, &TABLE_SET, &DUMP_SET})
+        for (const COMMAND_SET *set :
+             {&CORE_SET, &RANDOM_SET, &CLOCK_SET, &LIST_SET, &MATH_SET, &STACK_SET, &QUAT_SET,
+              &MATRIX_SET, &TABLE_SET, &COLOR_MAP_SET, &COLOR_ALPHA_SET, &COLOR_SET, &DUMP_SET})
             made.push_back({set->nameSpace, QuickRows(*set)});
         return made;
     }();
     return sets;
 }
 
-// What one script leaves behind for the next is put back: lists, tables, stack, formats, numbers.
+// What one script leaves behind for the next is put back: lists, tables, stack, colours, formats,
+// numbers.
 void StartAnew() {
     SETSINK(Discard, nullptr);
     INTERACTION = false;
     FORMAT = TFORMAT();
     RESTART_RANDOM(1);
     STACK.CLEAR();
+    BUILD_FAMILY(CURRENTMAP(), COLOUR_FAMILY::DEFAULTMAP, 1, 256);
     INIT_LISTS();
     TABLES.INIT();
 }

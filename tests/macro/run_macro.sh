@@ -30,6 +30,8 @@ MORVANE_FREEIMAGE= MORVANE_IMAGEMAGICK= \
     "$program" -strict +verbose $options "$name.macro" >all.txt 2>errors.txt </dev/null
 status=$?
 awk '/^Script runs\.\.\.$/ {on = 1}
+    # How long a work took and the whole run, as "(2 sec of 1:3 min)", hangs on the machine.
+    {gsub(/\([0-9:]+ [a-z0-9]+ of [0-9:]+ [a-z0-9]+\)/, "(0 sec of 0 sec)")}
     on {line[++count] = $0}
     on && /^Script ends\.$/ {last = count}
     END {for (i = 1; i <= (last ? last : count); ++i) print line[i]}' all.txt >found.txt

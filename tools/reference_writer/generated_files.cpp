@@ -4,6 +4,7 @@ namespace morvane {
 namespace {
 constexpr GENERATED_FILE FILES[] = {
     {"docs/commands.md", COMMANDS_PAGE},
+    {"docs/formats.md", FORMATS_PAGE},
     {"docs/man/morvane.1", MAN_PAGE},
     {"completions/morvane.bash", BASH_COMPLETION},
     {"completions/_morvane", ZSH_COMPLETION},

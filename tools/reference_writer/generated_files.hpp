@@ -9,6 +9,7 @@
 // The files that are made from the tables: one writer each, the same bytes at every call.
 namespace morvane {
 std::string COMMANDS_PAGE(const REFERENCE &reference); // docs/commands.md
+std::string FORMATS_PAGE(const REFERENCE &reference);  // docs/formats.md
 std::string MAN_PAGE(const REFERENCE &reference);      // roff for man(1)
 std::string BASH_COMPLETION(const REFERENCE &reference);
 std::string ZSH_COMPLETION(const REFERENCE &reference);

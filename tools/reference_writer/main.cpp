@@ -30,7 +30,7 @@ int CHECK_FILES(const std::string &root, const REFERENCE &reference) {
     int differing = 0;
     for (const GENERATED_FILE &file : GENERATED_FILES()) {
         if (BYTES_OF(root + "/" + std::string(file.path)) == file.text(reference)) continue;
-        WRITELN(std::string(file.path) + " is not what the command rows make of it");
+        WRITELN(std::string(file.path) + " is not what the rows make of it");
         ++differing;
     }
     if (differing > 0) WRITELN("Run: cmake --build build/release --target generated");

@@ -1,6 +1,9 @@
 #include "generated_files.hpp"
 #include "text_forms.hpp"
 
+#include <algorithm>
+#include <cctype>
+
 namespace morvane {
 namespace {
 // In a pattern with \V only the backslash and the delimiter are special.
@@ -15,9 +18,22 @@ std::string ANY(const std::vector<std::string> &words) {
     return "\\%(" + JOINED(plain, "\\|") + "\\)";
 }
 
-// `syn keyword` lines of a group.
-std::string KEYWORD_LINES(const std::string &group, const std::vector<std::string> &words) {
-    return WRAPPED(words, "syn keyword " + group + " ");
+// Whether a name consists of the characters that `syn iskeyword` below lists.
+bool IS_WORD(const std::string &name) {
+    return std::ranges::all_of(name, [](char c) {
+        return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || c == '.';
+    });
+}
+
+// The lines of a group: `syn keyword`, and a match for names such as image.rotate.-90.
+std::string NAME_LINES(const std::string &group, const std::vector<std::string> &names) {
+    std::vector<std::string> words, others;
+    for (const std::string &name : names)
+        (IS_WORD(name) ? words : others).push_back(name);
+    const std::string lines = WRAPPED(words, "syn keyword " + group + " ");
+    if (others.empty()) return lines;
+    return lines + "syn match " + group + " /\\%(^\\|\\s\\)\\@1<=" + ANY(others) +
+           "\\%(\\s\\|$\\)\\@=/\n";
 }
 
 constexpr std::string_view FORM =
@@ -67,8 +83,8 @@ let b:current_syntax = "morvane"
 
 std::string VIM_SYNTAX(const REFERENCE &reference) {
     std::string text =
-        REPLACED(FORM, "@COMMANDS@", KEYWORD_LINES("morvaneCommand", reference.COMMAND_NAMES()));
-    text = REPLACED(text, "@VARIABLES@", KEYWORD_LINES("morvaneVariable", reference.variables));
+        REPLACED(FORM, "@COMMANDS@", NAME_LINES("morvaneCommand", reference.COMMAND_NAMES()));
+    text = REPLACED(text, "@VARIABLES@", NAME_LINES("morvaneVariable", reference.variables));
     text = REPLACED(text, "@OPERATORS@", ANY(reference.operators));
     text = REPLACED(text, "@KEYWORDS@", ANY(reference.KEYWORD_NAMES()));
     return REPLACED(text, "@PREFIXES@", ANY(reference.prefixes));

@@ -3,7 +3,7 @@
 
 namespace morvane {
 namespace {
-// The text between the brackets of a specification.
+// The text between the brackets of an option's entry.
 std::string LEGEND(std::string_view text) {
     std::string legend;
     for (const char c : text) {

@@ -11,14 +11,16 @@
 namespace morvane {
 void IMAGE_CROP(TMACRO *engine) {
     TIMAGE &image = IMAGES.CURRENT();
-    CROP(image, AREA_FROM(image, GETNAT(engine->GETPARAMETER(1))));
+    const NAT value = GETNAT(engine->GETPARAMETER(1));
+    WITH_MEMORY([&] { CROP(image, AREA_FROM(image, value)); });
 }
 
 // new := image.crop value; without a pixel of at least the value all is copied.
 void IMAGE_CROP_REF(TMACRO *engine) {
     const TIMAGE &image = IMAGES.CURRENT();
-    const PIXEL_AREA area = AREA_FROM(image, GETNAT(engine->GETPARAMETER(1)));
+    const NAT value = GETNAT(engine->GETPARAMETER(1));
     WITH_TARGET(engine, [&](TIMAGE &target) {
+        const PIXEL_AREA area = AREA_FROM(image, value);
         if (area.EMPTY()) return COPY(image, target);
         SUBIMAGE(image, area, target);
     });

@@ -1,36 +1,20 @@
 #include "app/image/image_handlers.hpp"
 #include "app/workspaces.hpp"
-#include "foundation/base/number_text.hpp"
-#include "foundation/console/console.hpp"
 #include "image2d/chart/analysis.hpp"
 #include "image2d/image/objects.hpp"
 
 // The histogram of the image in use and what its curve tells: printed, as a text, as a chart.
+// The commands of the histogram itself stand in histogram_handlers.hpp.
 namespace morvane {
-namespace {
-TPOLYNAT Bins() {
+TPOLYNAT IMAGE_BINS() {
     TPOLYNAT bins;
     HISTOGRAM(IMAGES.CURRENT(), bins);
     return bins;
 }
 
-void Analyse(HISTOGRAM_ANALYSIS &analysis) { IMAGE_ANALYSE(Bins(), analysis); }
+namespace {
+void Analyse(HISTOGRAM_ANALYSIS &analysis) { IMAGE_ANALYSE(IMAGE_BINS(), analysis); }
 } // namespace
-
-// A line "value<tab>count" for each value that occurs.
-void IMAGE_HISTOGRAM(TMACRO *) {
-    const TPOLYNAT bins = Bins();
-    for (NAT i = 1; i <= bins.LENGTH; ++i)
-        if (bins.GET(i) > 0) WRITELN(GETSTRING(i - 1) + "\t" + GETSTRING(bins.GET(i)));
-}
-
-void IMAGE_HISTOGRAM_IMAGE(TMACRO *engine) {
-    static_cast<void>(SAVE_HISTOGRAM_IMAGE(Bins(), engine->GETPARAMETER(1)));
-}
-
-void IMAGE_HISTOGRAM_RAW(TMACRO *engine) {
-    static_cast<void>(SAVE_HISTOGRAM(Bins(), engine->GETPARAMETER(1)));
-}
 
 void IMAGE_ANALYSIS(TMACRO *) {
     HISTOGRAM_ANALYSIS analysis;

@@ -1,5 +1,6 @@
 #include "app/image/image_filter_rows.hpp"
 
+#include "app/histogram_handlers.hpp"
 #include "app/image/image_handlers.hpp"
 
 // The contents page of groups, filters and analysis of images: rows in the order of their
@@ -114,11 +115,11 @@ constexpr std::string_view COLUMN_PARAMETERS = "[column: number, half: number pi
 constexpr std::string_view ROW_PARAMETERS = "[row: number, half: number pixels]";
 
 constexpr COMMAND_ROW ANALYSIS_ROWS[] = {
-    PROCEDURE("histogram", IMAGE_HISTOGRAM, EXACTLY(0), "", "image.histogram",
+    PROCEDURE("histogram", HISTOGRAM_SHOW<IMAGE_BINS>, EXACTLY(0), "", "image.histogram",
               "print each value that occurs, and its count"),
-    PROCEDURE("histogram.image", IMAGE_HISTOGRAM_IMAGE, EXACTLY(1), "chart: file",
+    PROCEDURE("histogram.image", HISTOGRAM_IMAGE<IMAGE_BINS>, EXACTLY(1), "chart: file",
               "image.histogram.image histogram.svg", "save the histogram as a chart"),
-    PROCEDURE("histogram.raw", IMAGE_HISTOGRAM_RAW, EXACTLY(1), "table: file",
+    PROCEDURE("histogram.raw", HISTOGRAM_RAW<IMAGE_BINS>, EXACTLY(1), "table: file",
               "image.histogram.raw histogram.txt", "save a line value, count each"),
     PROCEDURE("analysis", IMAGE_ANALYSIS, EXACTLY(0), "", "image.analysis",
               "print peaks, valleys and inflections of the histogram"),

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/container/poly_types.hpp"
+
 // Handlers of the image commands, by the file that holds them. Each reads its parameters, calls one
 // operation on the image in use, or on images named in the line, and hands back a result.
 namespace morvane {
@@ -146,9 +148,7 @@ void IMAGE_CLOSE(TMACRO *engine);
 void IMAGE_REMOVE_OUTLIERS(TMACRO *engine);
 
 // Analysis; rows in image_filter_rows.cpp
-void IMAGE_HISTOGRAM(TMACRO *engine);
-void IMAGE_HISTOGRAM_IMAGE(TMACRO *engine);
-void IMAGE_HISTOGRAM_RAW(TMACRO *engine);
+TPOLYNAT IMAGE_BINS(); // the histogram of the image in use, value v in bin v+1
 void IMAGE_ANALYSIS(TMACRO *engine);
 void IMAGE_ANALYSIS_IMAGE(TMACRO *engine);
 void IMAGE_ANALYSIS_RAW(TMACRO *engine);

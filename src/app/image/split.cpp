@@ -27,24 +27,24 @@ void SplitColours(TMACRO *engine, const std::vector<VECTORNAT> &colours) {
     for (std::size_t i = 1; i <= colours.size(); ++i)
         names.push_back(GETSTRING(i));
     const std::vector<TIMAGE *> targets = TargetsOf(engine, names);
-    if (!targets.empty()) SPLIT_COLOURS(IMAGES.CURRENT(), colours, targets);
+    if (!targets.empty()) WITH_MEMORY([&] { SPLIT_COLOURS(IMAGES.CURRENT(), colours, targets); });
 }
 
 void SplitRainbow(TMACRO *engine, NAT bits) {
     const std::vector<TIMAGE *> targets =
         TargetsOf(engine, {"red", "green", "blue", "yellow", "cyan", "purple", "gray"});
-    if (!targets.empty()) SPLIT_RAINBOW(IMAGES.CURRENT(), bits, targets);
+    if (!targets.empty()) WITH_MEMORY([&] { SPLIT_RAINBOW(IMAGES.CURRENT(), bits, targets); });
 }
 } // namespace
 
 void IMAGE_SPLIT_RGB_REF(TMACRO *engine) {
     const std::vector<TIMAGE *> targets = TargetsOf(engine, {"red", "green", "blue"});
-    if (!targets.empty()) SPLIT_RGB(IMAGES.CURRENT(), targets);
+    if (!targets.empty()) WITH_MEMORY([&] { SPLIT_RGB(IMAGES.CURRENT(), targets); });
 }
 
 void IMAGE_SPLIT_RGBA_REF(TMACRO *engine) {
     const std::vector<TIMAGE *> targets = TargetsOf(engine, {"red", "green", "blue", "alpha"});
-    if (!targets.empty()) SPLIT_RGB(IMAGES.CURRENT(), targets);
+    if (!targets.empty()) WITH_MEMORY([&] { SPLIT_RGB(IMAGES.CURRENT(), targets); });
 }
 
 void IMAGE_SPLIT_RAINBOW_REF(TMACRO *engine) { SplitRainbow(engine, 0); }

@@ -1,4 +1,5 @@
 #include "app/image/image_handlers.hpp"
+#include "app/image/targets.hpp"
 #include "app/workspaces.hpp"
 #include "foundation/base/number_text.hpp"
 #include "foundation/base/record_operators.hpp"
@@ -35,7 +36,7 @@ void ReadColour(TMACRO *engine, const GREY &grey, const COLOUR &colour) {
     const UTF16 text = engine->GETPARAMETER(1);
     const bool isColour = count == 2 || POS(",", text) > 0 || POS(";", text) > 0;
     if (!isColour) return grey(GETNAT(text));
-    const VECTORNAT rgb = GETVECTORNAT(text);
+    const VECTORNAT rgb = GETCOLOUR(text);
     colour(HYPERNAT{rgb.x, rgb.y, rgb.z, count == 2 ? GETNAT(engine->GETPARAMETER(2)) : 255});
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "app/workspaces.hpp"
+#include "foundation/console/console.hpp"
 #include "script/engine/macro.hpp"
 
+#include <new>
 #include <vector>
 
 // The images that a line names: the target before ":=", and operands behind the command.
@@ -10,12 +12,18 @@ namespace morvane {
 // The largest number of images that one line joins.
 inline constexpr NAT MOST_OPERANDS = 99;
 
+// f(), which makes its results beside their targets: without memory for them, for the rows of a
+// very wide image too, one line tells so and nothing changes.
+template <class F> void WITH_MEMORY(F &&f) try { f(); } catch (const std::bad_alloc &) {
+    WRITELN("  Out of memory! Image not changed.");
+}
+
 // Calls f(target) with the image that the line assigns to; the image is the result, so that no
 // constant is stored. Nothing happens when the target is refused, which has been told.
 template <class F> void WITH_TARGET(TMACRO *engine, F &&f) {
     TIMAGE *const target = IMAGES.ASSIGN_TO(engine, engine->COMMAND_RESULT_VAR);
     if (!target) return;
-    f(*target);
+    WITH_MEMORY([&] { f(*target); });
     engine->COMMAND_RESULT_VAR = UTF16();
 }
 
@@ -42,7 +50,7 @@ inline std::vector<const TIMAGE *> OPERANDS_OF_LINE(TMACRO *engine, NAT least, N
     return operands;
 }
 
-// A colour: <r, g, b>, or a grey value.
+// A colour: <r, g, b>, or a grey value; components limited to -1..65536.
 VECTORNAT GETCOLOUR(const UTF16 &text);
 // The colours of all parameters from `first` on, as such or as points of the image (abs & rel).
 std::vector<VECTORNAT> COLOURS_OF_LINE(TMACRO *engine, NAT first);

@@ -16,13 +16,14 @@ void SetPeak(PEAK_GOAL goal) {
     const NAT target = goal == PEAK_GOAL::LOWER    ? 0
                        : goal == PEAK_GOAL::MIDDLE ? (top + 1) / 2
                                                    : top;
-    SETPEAK(image, PEAK_CHANNEL::MEAN, {0, top}, target);
+    WITH_MEMORY([&] { SETPEAK(image, PEAK_CHANNEL::MEAN, {0, top}, target); });
 }
 
 // setpeak.local target range
 void SetPeakLocal(TMACRO *engine, PEAK_CHANNEL channel) {
-    SETPEAK(IMAGES.CURRENT(), channel, GETRANGE(engine->GETPARAMETER(2)),
-            GETNAT(engine->GETPARAMETER(1)));
+    const NAT target = GETNAT(engine->GETPARAMETER(1));
+    const COMPLEXNAT range = GETRANGE(engine->GETPARAMETER(2));
+    WITH_MEMORY([&] { SETPEAK(IMAGES.CURRENT(), channel, range, target); });
 }
 
 VECTOR GetVector(TMACRO *engine, NAT index) { return GETVECTOR(engine->GETPARAMETER(index)); }

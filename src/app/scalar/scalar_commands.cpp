@@ -1,6 +1,7 @@
 #include "app/scalar/scalar_commands.hpp"
 
 #include "app/frame_handlers.hpp"
+#include "app/histogram_handlers.hpp"
 #include "app/info_handlers.hpp"
 #include "app/scalar/scalar_handlers.hpp"
 #include "app/slice_handlers.hpp"
@@ -174,6 +175,22 @@ constexpr COMMAND_ROW ROWS[] = {
              "a := scalar.count 1 255", "number of voxels with a value in the range"),
     FUNCTION("sum", SCALAR_SUM_REF, OWN_COUNT, "low: number, high: number | range: range",
              "a := scalar.sum 1 255", "sum of the values in the range"),
+    PROCEDURE("histogram", HISTOGRAM_SHOW<SCALAR_BINS>, EXACTLY(0), "", "scalar.histogram",
+              "print a line value, count for each value that occurs"),
+    PROCEDURE("histogram.fast", HISTOGRAM_SHOW<SCALAR_BINS_FAST>, EXACTLY(0), "",
+              "scalar.histogram.fast",
+              "print value, count for some slices of a large field, drawn at random"),
+    PROCEDURE("histogram.image", HISTOGRAM_IMAGE<SCALAR_BINS>, EXACTLY(1), "chart: file",
+              "scalar.histogram.image histogram.svg", "save the histogram as a chart"),
+    PROCEDURE("histogram.raw", HISTOGRAM_RAW<SCALAR_BINS>, EXACTLY(1), "table: file",
+              "scalar.histogram.raw histogram.txt", "save a line value, count each"),
+    PROCEDURE("analysis", ANALYSIS_SHOW<SCALAR_BINS>, EXACTLY(0), "", "scalar.analysis",
+              "print mean, deviation and quartiles of the values and points of their histogram"),
+    PROCEDURE("analysis.image", ANALYSIS_IMAGE<SCALAR_BINS>, EXACTLY(1), "chart: file",
+              "scalar.analysis.image analysis.svg",
+              "save the histogram with statistic and points as a chart"),
+    PROCEDURE("analysis.raw", ANALYSIS_RAW<SCALAR_BINS>, EXACTLY(1), "table: file",
+              "scalar.analysis.raw analysis.txt", "save statistic, points and histogram as a text"),
     PROCEDURE("fullscan", (SETTING<&SCALARS, &FIELD::fullScan>), EXACTLY(1), "on: flag",
               "scalar.fullscan 1", "a voxel with a line too short gets no direction"),
 

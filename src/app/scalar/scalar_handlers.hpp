@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/container/poly_types.hpp"
+
 // Handlers of the scalar commands, by the file that holds them. Each reads its parameters, calls
 // one operation on the scalar field in use and hands back a result.
 namespace morvane {
@@ -39,6 +41,10 @@ void SCALAR_LABEL(TMACRO *engine);
 void SCALAR_LABEL_REF(TMACRO *engine);
 void SCALAR_LABELS_DUMP(TMACRO *engine);
 void SCALAR_SAVE_LABELS(TMACRO *engine);
+
+// charts.cpp: the counts that histogram commands work on, value v in bin v+1
+TPOLYNAT SCALAR_BINS();
+TPOLYNAT SCALAR_BINS_FAST(); // of three slices or more, drawn at random
 
 // scan.cpp
 void SCALAR_DIFFUSION(TMACRO *engine);

@@ -1,6 +1,7 @@
 #include "app/vector/vector_commands.hpp"
 
 #include "app/frame_handlers.hpp"
+#include "app/histogram_handlers.hpp"
 #include "app/info_handlers.hpp"
 #include "app/slice_handlers.hpp"
 #include "app/vector/vector_handlers.hpp"
@@ -228,6 +229,8 @@ constexpr COMMAND_ROW ROWS[] = {
               "vector.hardsmooth 1", "mean of the 26 neighbours"),
     PROCEDURE("remove.outliers", VECTOR_REMOVE_OUTLIERS, AT_MOST(1), "[factor: real]",
               "vector.remove.outliers 1.5", "the median in place of components far off"),
+    PROCEDURE("fuse", VECTOR_FUSE, EXACTLY(0), "", "vector.fuse",
+              "each pixel of the image from the slice with the largest scalar value"),
     PROCEDURE("get.x", VECTOR_GET_X, EXACTLY(0), "", "vector.get.x",
               "x into the scalar field in use"),
     PROCEDURE("get.y", VECTOR_GET_Y, EXACTLY(0), "", "vector.get.y",
@@ -243,6 +246,23 @@ constexpr COMMAND_ROW ROWS[] = {
               "length into the scalar field in use"),
     LAMBDA("factor.distance", VECTOR_FACTOR_DISTANCE_LAMD, "a := vector.factor.distance",
            "how rough the field is: 0 for a constant one"),
+
+    // Charts of the lengths, each rounded to a whole number.
+    PROCEDURE("histogram", HISTOGRAM_SHOW<VECTOR_BINS>, EXACTLY(0), "", "vector.histogram",
+              "print a line length, count for each length that occurs"),
+    PROCEDURE("histogram.image", HISTOGRAM_IMAGE<VECTOR_BINS>, EXACTLY(1), "chart: file",
+              "vector.histogram.image histogram.svg",
+              "save the histogram of the lengths as a chart"),
+    PROCEDURE("histogram.raw", HISTOGRAM_RAW<VECTOR_BINS>, EXACTLY(1), "table: file",
+              "vector.histogram.raw histogram.txt", "save a line length, count each"),
+    PROCEDURE("analysis", ANALYSIS_SHOW<VECTOR_BINS>, EXACTLY(0), "", "vector.analysis",
+              "print mean, deviation and quartiles of the lengths and points of their histogram"),
+    PROCEDURE("analysis.image", ANALYSIS_IMAGE<VECTOR_BINS>, EXACTLY(1), "chart: file",
+              "vector.analysis.image analysis.svg",
+              "save the histogram of the lengths with statistic and points as a chart"),
+    PROCEDURE("analysis.raw", ANALYSIS_RAW<VECTOR_BINS>, EXACTLY(1), "table: file",
+              "vector.analysis.raw analysis.txt",
+              "save statistic, points and histogram of the lengths as a text"),
 
     // Streamlines and lines.
     PROCEDURE("stream.seeds", VECTOR_STREAM_SEEDS, EXACTLY(1), "distance: number voxels",

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/container/poly_types.hpp"
 #include "orientation/stream/stream_settings.hpp"
 
 // Handlers of the vector commands, by the file that holds them. Each reads its parameters, calls
@@ -67,6 +68,10 @@ void VECTOR_GET_ANGLE(TMACRO *engine);
 void VECTOR_GET_FULLANGLE(TMACRO *engine);
 void VECTOR_FACTOR_DISTANCE_LAMD(TMACRO *engine);
 void VECTOR_LINE_MAKE(TMACRO *engine);
+
+// charts.cpp
+TPOLYNAT VECTOR_BINS(); // what histogram commands work on: vectors of rounded length v in bin v+1
+void VECTOR_FUSE(TMACRO *engine);
 
 // stream.cpp
 void VECTOR_STREAM_SEEDS(TMACRO *engine);

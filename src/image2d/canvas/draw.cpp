@@ -40,11 +40,13 @@ struct STRAIGHT {
     NAT steps; // points less one
     REAL stepX, stepY;
 };
+// A step is a pixel long, so that the last point lies up to half a pixel before or behind the end.
 STRAIGHT Straight(NAT x1, NAT y1, NAT x2, NAT y2) {
     const REAL dx = static_cast<REAL>(x2 - x1), dy = static_cast<REAL>(y2 - y1);
-    const NAT steps = std::min(ROUND(std::hypot(dx, dy)), MOST_STEPS);
-    const REAL count = static_cast<REAL>(std::max<NAT>(steps, 1));
-    return {steps, dx / count, dy / count};
+    const REAL length = std::hypot(dx, dy);
+    const NAT steps = std::min(ROUND(length), MOST_STEPS);
+    const REAL count = steps < MOST_STEPS ? length : static_cast<REAL>(steps);
+    return {steps, DIVIDE(dx, count), DIVIDE(dy, count)};
 }
 } // namespace
 

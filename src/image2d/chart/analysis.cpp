@@ -146,19 +146,23 @@ bool SAVE_HISTOGRAM(const TPOLYNAT &bins, const UTF16 &name) {
     return file.COMMIT();
 }
 
-bool SAVE_HISTOGRAM_IMAGE(const TPOLYNAT &bins, const UTF16 &name) {
-    THISTOGRAM chart(CHART.x, CHART.y);
+void START_VALUE_CHART(THISTOGRAM &chart) {
+    chart.INIT(CHART.x, CHART.y);
     chart.LOGBASE = 10;
     chart.BOTTOM("values");
     chart.LEFT("log10 frequency");
+}
+
+bool SAVE_HISTOGRAM_IMAGE(const TPOLYNAT &bins, const UTF16 &name) {
+    THISTOGRAM chart;
+    START_VALUE_CHART(chart);
     chart.HISTOGRAM(bins);
     return chart.SAVE(name);
 }
 
 bool SAVE_ANALYSIS_IMAGE(const HISTOGRAM_ANALYSIS &analysis, const UTF16 &name) {
-    THISTOGRAM chart(CHART.x, CHART.y);
-    chart.BOTTOM("values");
-    chart.LEFT("log10 frequency");
+    THISTOGRAM chart;
+    START_VALUE_CHART(chart);
     DRAW_ANALYSIS(analysis, chart);
     return chart.SAVE(name);
 }

@@ -40,8 +40,9 @@ void DRAW_ANALYSIS(const HISTOGRAM_ANALYSIS &analysis, THISTOGRAM &chart);
 // A histogram as a text: a line "value<tab>count" for each bin, value 0 first; false after a
 // failure, which is told.
 bool SAVE_HISTOGRAM(const TPOLYNAT &bins, const UTF16 &name);
-// Grey values over log10 frequency in 640x480, saved by the name's extension; captions "values" and
-// "log10 frequency".
+// An empty chart of 640x480 with the captions "values" and "log10 frequency".
+void START_VALUE_CHART(THISTOGRAM &chart);
+// Values over log10 frequency, saved by the name's extension.
 bool SAVE_HISTOGRAM_IMAGE(const TPOLYNAT &bins, const UTF16 &name);
 bool SAVE_ANALYSIS_IMAGE(const HISTOGRAM_ANALYSIS &analysis, const UTF16 &name);
 } // namespace morvane

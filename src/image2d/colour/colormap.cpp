@@ -48,9 +48,12 @@ void TCOLORMAP::BUILD(const TPOLYCOMPLEX &points, const TPOLYHYPER &colours) {
     if (keys == 1)
         for (NAT i = 1; i <= LENGTH; ++i)
             _PUT(i, colours._GET(1));
+    NAT firstKey = 0, lastKey = 0;
     for (NAT key = 1; key < keys; ++key) {
         const REAL from = points._GET(key).x, to = points._GET(key + 1).x;
         if (!IsPlace(from) || !IsPlace(to) || to < from) continue;
+        if (firstKey == 0) firstKey = key;
+        lastKey = key + 1;
         const NAT start = ROUND(from * last), steps = ROUND((to - from) * last);
         const HYPER first = colours._GET(key), second = colours._GET(key + 1);
         for (NAT i = 0; i <= steps; ++i) {
@@ -58,6 +61,10 @@ void TCOLORMAP::BUILD(const TPOLYCOMPLEX &points, const TPOLYHYPER &colours) {
             if (start + i < LENGTH) _PUT(start + i + 1, Blend(first, second, share));
         }
     }
+    // Rounded steps may end one entry early or late: the outer keys keep their places.
+    if (firstKey == 0) return;
+    for (const NAT key : {firstKey, lastKey})
+        _PUT(ROUND(points._GET(key).x * last) + 1, colours._GET(key));
 }
 
 void TCOLORMAP::PUT(NAT length, std::span<const HYPERNAT> colours) {

@@ -14,7 +14,7 @@
 namespace morvane {
 namespace {
 constexpr std::array<REAL, 4> PARENT_WEIGHTS{9.0 / 16, 3.0 / 16, 3.0 / 16, 1.0 / 16};
-constexpr REAL LEVEL_SCALE = 0.25; // the inverse of a row's diagonal, on each level
+constexpr REAL DIAGONAL = 4;  // of a row without known neighbours, on each level
 constexpr REAL ENOUGH = 1e-9; // square of the error's energy norm in grey values: far below a half
 constexpr int MOST_STEPS = 2000;
 
@@ -52,6 +52,27 @@ MISSING_PIXELS::MISSING_PIXELS(const TCANVAS &missing)
         levels.push_back(std::move(coarse));
     }
     levels.back().places = {};
+    MakeScales();
+}
+
+// A known neighbour holds an unknown like a spring. A coarse unknown is held by all springs of
+// those that it stands for: where many pixels are known, coarse levels have little to say.
+void MISSING_PIXELS::MakeScales() {
+    std::vector<REAL> springs;
+    for (std::size_t i = 0; i < neighbours.size(); ++i)
+        springs.push_back(degrees[i] - static_cast<REAL>(std::ranges::count_if(
+                                           neighbours[i], [](INDEX n) { return n != 0; })));
+    for (std::size_t l = 1; l < levels.size(); ++l) {
+        const LEVEL &fine = levels[l - 1];
+        std::vector<REAL> sums(static_cast<std::size_t>(levels[l].count) + 1);
+        for (std::size_t i = 0; i < fine.parents.size(); ++i)
+            for (std::size_t k = 0; k < 4; ++k)
+                sums[fine.parents[i][k]] += PARENT_WEIGHTS[k] * springs[i];
+        springs.assign(sums.begin() + 1, sums.end());
+        levels[l].scales.resize(springs.size());
+        std::ranges::transform(springs, levels[l].scales.begin(),
+                               [](REAL spring) { return 1 / (DIAGONAL + spring); });
+    }
 }
 
 // Cell-centred bilinear interpolation: the cell around a pixel, and those beside it on the pixel's
@@ -97,7 +118,7 @@ void MISSING_PIXELS::Precondition() {
         level.step.resize(level.rest.size());
         level.step[0] = 0;
         for (std::size_t i = 1; i < level.step.size(); ++i) {
-            REAL step = level.rest[i] * LEVEL_SCALE;
+            REAL step = level.rest[i] * (l == 0 ? 1 / DIAGONAL : level.scales[i - 1]);
             if (l + 1 < levels.size())
                 for (std::size_t k = 0; k < 4; ++k)
                     step += PARENT_WEIGHTS[k] * levels[l + 1].step[level.parents[i - 1][k]];
@@ -122,7 +143,7 @@ void MISSING_PIXELS::Solve(std::vector<REAL> &x, const std::vector<REAL> &sums) 
     for (std::size_t i = 1; i < x.size(); ++i)
         rest[i] = sums[i] - product[i];
     REAL before = 0;
-    for (int n = 0; n < MOST_STEPS; ++n) {
+    for (rounds = 0; rounds < MOST_STEPS; ++rounds) {
         Precondition();
         const REAL error = Dot(rest, step);
         if (error <= ENOUGH) return;

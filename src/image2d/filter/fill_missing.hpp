@@ -16,6 +16,7 @@ public:
     // Nothing when all pixels are missing. Values are rounded.
     template <class PIXEL> void FILL(CANVAS<PIXEL> &canvas);
     NAT COUNT() const { return static_cast<NAT>(offsets.size()); }
+    int ROUNDS() const { return rounds; } // of the last FILL until all were near enough
 
 private:
     using INDEX = std::uint32_t; // of an unknown, from 1; 0: none
@@ -24,10 +25,12 @@ private:
         NAT width = 0, height = 0;
         std::vector<INDEX> places; // by pixel, only while the levels are made
         std::vector<std::array<INDEX, 4>> parents;
+        std::vector<REAL> scales; // the inverse of each row's diagonal; all levels but the finest
         std::vector<REAL> rest, step;
         NAT count = 0;
     };
     void MakeParents(LEVEL &fine, LEVEL &coarse);
+    void MakeScales();
     void Precondition();
     void Multiply(const std::vector<REAL> &x, std::vector<REAL> &product) const;
     void Solve(std::vector<REAL> &x, const std::vector<REAL> &sums);
@@ -37,5 +40,6 @@ private:
     std::vector<REAL> degrees; // neighbours within the image
     std::vector<LEVEL> levels;
     NAT pixelCount = 0, imageWidth = 0;
+    int rounds = 0;
 };
 } // namespace morvane

@@ -89,11 +89,11 @@ void COMBINE_PIXELS(PIXEL_OPERATION operation, OPERANDS operands, TIMAGE &target
 
 void INTENSITY(const TIMAGE &a, const TIMAGE &b, REAL timeA, REAL timeB, TIMAGE &target) {
     const TIMAGE *const operands[] = {&a, &b};
-    const REAL meanTime = (timeA + timeB) / 2;
+    // Weights of the values instead of rates: exposure times in the ratio of 1 to 2 round exactly.
+    const REAL halfTime = (timeA + timeB) / 4;
+    const REAL weightA = DIVIDE(halfTime, timeA), weightB = DIVIDE(halfTime, timeB);
     PixelByPixel(operands, target, [&](VALUES v) {
-        const REAL rate =
-            DIVIDE(static_cast<REAL>(v[0]), timeA) + DIVIDE(static_cast<REAL>(v[1]), timeB);
-        return ROUND(rate / 2 * meanTime);
+        return ROUND(static_cast<REAL>(v[0]) * weightA + static_cast<REAL>(v[1]) * weightB);
     });
 }
 

@@ -95,11 +95,12 @@ void ADJUST_PERCENTAGE(TIMAGE &image, REAL low, REAL high) {
 }
 
 void ADJUST_WEAK(TIMAGE &image, const SOFT_SHARES &shares) {
-    const auto [outerLow, innerLow] = std::minmax({shares.innerLow, shares.outerLow});
-    const auto [outerHigh, innerHigh] = std::minmax({shares.innerHigh, shares.outerHigh});
+    // Plain pairs: clang before 16 takes no structured bindings into a lambda.
+    const std::pair<REAL, REAL> low = std::minmax({shares.innerLow, shares.outerLow});
+    const std::pair<REAL, REAL> high = std::minmax({shares.innerHigh, shares.outerHigh});
     WithHistogram(image, [&](auto &plane, const TPOLYNAT &bins) {
-        const SOFT_BOUNDS bounds{LowBound(bins, outerLow), LowBound(bins, innerLow),
-                                 HighBound(bins, innerHigh), HighBound(bins, outerHigh)};
+        const SOFT_BOUNDS bounds{LowBound(bins, low.first), LowBound(bins, low.second),
+                                 HighBound(bins, high.second), HighBound(bins, high.first)};
         if (bounds.innerLow < bounds.innerHigh) StretchSoftly(plane, bounds);
     });
 }

@@ -26,6 +26,7 @@ void TakeSettings(TIMAGE &image, const TIMAGE &source) {
     image.fullScan = source.fullScan;
     image.diffusionAngle = source.diffusionAngle;
     image.diffusionMax = source.diffusionMax;
+    image.diffusionAxial = source.diffusionAxial;
 }
 } // namespace
 

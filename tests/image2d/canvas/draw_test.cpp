@@ -66,13 +66,23 @@ TEST_CASE("a straight line plots its points and a slanted one is smooth on 8 bit
     LINE(canvas, 1, 1, 1, 1);
     CHECK(COUNT(canvas, 1, 255) == 1);
     canvas.FILL(0);
-    // Length sqrt(20), 4 steps of (1, 0.5): in tenths (10,10) (20,15) (30,20) (40,25) (50,30).
+    // Length 5, steps of (0.8, 0.6): in tenths (10,10) (18,16) (26,22) (34,28) (42,34) (50,40).
+    LINE(canvas, 1, 1, 5, 4);
+    CHECK(canvas.GET(1, 1) == 255);
+    CHECK(canvas.GET(2, 1) == 81);  // of (18,16): 8 * 4 of 100
+    CHECK(canvas.GET(2, 2) == 164); // of (18,16): 8 * 6 give 122, of (26,22): 4 * 8 give 42 more
+    CHECK(canvas.GET(5, 4) == 255);
+}
+
+TEST_CASE("a slanted line has steps of one pixel") {
+    TGRAY canvas(5, 5);
+    // Length sqrt(20) = 4.472, rounded 4 steps of (0.894, 0.447): in tenths (10,10) (19,14)
+    // (28,19) (37,23) (46,28).
     LINE(canvas, 1, 1, 5, 3);
     CHECK(canvas.GET(1, 1) == 255);
-    CHECK(canvas.GET(2, 1) == 127); // 255 * 50 / 100
-    CHECK(canvas.GET(2, 2) == 127);
-    CHECK(canvas.GET(3, 2) == 255);
-    CHECK(canvas.GET(5, 3) == 255);
+    CHECK(canvas.GET(5, 2) == 30);  // of (46,28): 6 * 2 of 100
+    CHECK(canvas.GET(5, 3) == 122); // of (46,28): 6 * 8 of 100
+    CHECK(canvas.GET(4, 3) == 117); // of (37,23): 7 * 3 give 53, of (46,28): 4 * 8 give 64 more
 }
 
 TEST_CASE("a line on 16 bits is plain") {

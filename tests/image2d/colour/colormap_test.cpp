@@ -79,6 +79,22 @@ TEST_CASE("key points outside 0..1 are passed over and empty lists change nothin
     CheckColour(map.GETRGBA(1), {0, 0, 0, 0});
 }
 
+TEST_CASE("maps of every length begin and end with their outer key colours") {
+    const auto share = [](const COLOUR_KEY &key) {
+        return HYPER{key.red / 255.0, key.green / 255.0, key.blue / 255.0, key.alpha / 255.0};
+    };
+    for (const COLORMAP_FAMILY &family : COLORMAP_FAMILIES())
+        for (const COLORMAP_ROW &row : family.rows)
+            for (NAT length = 2; length <= 40; ++length) {
+                CAPTURE(row.name);
+                CAPTURE(length);
+                TCOLORMAP map;
+                REQUIRE(map.PUT(length, row.builder));
+                CheckColour(map.GETRGBA(1), share(row.keys.front()));
+                CheckColour(map.GETRGBA(length), share(row.keys.back()));
+            }
+}
+
 TEST_CASE("indices wrap round and an empty map is black") {
     TCOLORMAP map;
     CheckColour(map.GETRGBA(1), {0, 0, 0, 0});

@@ -1,4 +1,6 @@
 #include "image2d/filter/fill_missing.hpp"
+
+#include "foundation/base/random.hpp"
 #include "image2d/filter/holes.hpp"
 
 #include <cmath>
@@ -87,6 +89,23 @@ TEST_CASE("a large hole is restored to the pixel too") {
         if (!mask.DATA()[i]) holed.DATA()[i] = plane.DATA()[i];
     missing.FILL(holed);
     CHECK(std::equal(plane.DATA(), plane.DATA() + plane.COUNT(), holed.DATA()));
+}
+
+TEST_CASE("pixels missing at random are filled in as few rounds as one large hole") {
+    TGRAY canvas(500, 500);
+    TCANVAS half(500, 500);
+    RANDOM_STREAM random(1, 2);
+    for (NAT i = 0; i < canvas.COUNT(); ++i) {
+        canvas.DATA()[i] = static_cast<BYTE>(random.NEXT32());
+        half.DATA()[i] = static_cast<BYTE>(random.NEXT32() % 2);
+    }
+    MISSING_PIXELS missing(half), hole(Disc(500, 250, 250, 240));
+    missing.FILL(canvas);
+    CHECK(missing.ROUNDS() < 50);
+    for (NAT i = 0; i < canvas.COUNT(); ++i)
+        canvas.DATA()[i] = static_cast<BYTE>(random.NEXT32());
+    hole.FILL(canvas);
+    CHECK(hole.ROUNDS() < 50);
 }
 
 TEST_CASE("missing pixels at the border go on as the known ones end") {

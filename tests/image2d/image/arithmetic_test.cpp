@@ -90,6 +90,13 @@ TEST_CASE("an intensity joins two exposure times by their rates") {
     CHECK(ROWS_OF(zero) == NUMBER_ROWS{{25, 2}});
 }
 
+TEST_CASE("an intensity that lies in the middle of two values becomes the even one") {
+    const ROWS_IMAGE a(IMAGE_GRAY, {{0, 1}}), b(IMAGE_GRAY, {{164, 26}});
+    TIMAGE target(IMAGE_GRAY);
+    INTENSITY(a, b, 10, 20, target); // 0.75 a + 0.375 b = 61.5 and 10.5
+    CHECK(ROWS_OF(target) == NUMBER_ROWS{{62, 10}});
+}
+
 TEST_CASE("blending agrees with a colour put over a pixel") {
     TIMAGE above(IMAGE_RGBA, 3, 1), below(IMAGE_RGBA, 3, 1), target(IMAGE_RGBA);
     const HYPERNAT over[] = {{200, 10, 0, 128}, {200, 10, 0, 255}, {200, 10, 0, 0}};

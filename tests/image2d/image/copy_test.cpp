@@ -15,6 +15,7 @@ TEST_CASE(
     source._SETVALUE(9);
     source._SETBACKGROUND(8);
     source.copyMethod = 7;
+    source.diffusionAxial = true;
     TIMAGE target(IMAGE_GRAY);
     COPY(source, target);
     CHECK(ROWS_OF(target) == NUMBER_ROWS{{1, 2}, {3, 4}});
@@ -22,6 +23,7 @@ TEST_CASE(
     CHECK(target._GETVALUE() == 9);
     CHECK(target._GETBACKGROUND() == 8);
     CHECK(target.copyMethod == 7);
+    CHECK(target.diffusionAxial);
 }
 
 TEST_CASE("a copy into an image with pixels leaves it its own frame, pen and settings") {
