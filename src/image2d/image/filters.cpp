@@ -5,10 +5,12 @@
 #include "image2d/filter/outliers.hpp"
 #include "image2d/filter/window.hpp"
 
+#include <algorithm>
+
 namespace morvane {
 namespace {
 template <class F> void Repeat(TIMAGE &image, NAT times, const F &filter) {
-    for (NAT pass = 0; pass < times; ++pass)
+    for (NAT pass = 0; pass < std::min(times, MOST_PASSES); ++pass)
         image._PLANES(filter);
 }
 

@@ -9,7 +9,7 @@
 // Filters of a whole image, each plane by itself: grey, red, green, blue, and the alpha of RGBA;
 // what is said of a plane stands at its canvas operation. Images of ZRGB have no filters.
 namespace morvane {
-// `times` passes; none below 1.
+// `times` passes, MOST_PASSES at most; none below 1.
 void SOFTSMOOTH(TIMAGE &image, NAT times);
 void SMOOTH(TIMAGE &image, NAT times);
 void HARDSMOOTH(TIMAGE &image, NAT times);

@@ -227,3 +227,13 @@ TEST_CASE("circles become points of one line in global coordinates") {
     CHECK(GETSPHERE(image, {1, 2}, 10, cloud) == 0);
     CHECK(cloud.GETLINELENGTH() == 1);
 }
+
+TEST_CASE("a filter runs 9999 times at most") {
+    TIMAGE image(IMAGE_GRAY, 3, 3), same(IMAGE_GRAY, 3, 3);
+    image.PUT(2, 2, 255);
+    same.PUT(2, 2, 255);
+    SMOOTH(image, NATMAX);
+    SMOOTH(same, MOST_PASSES);
+    CHECK(image.GET(2, 2) == same.GET(2, 2));
+    CHECK(image.GET(1, 1) == same.GET(1, 1));
+}
