@@ -2,8 +2,8 @@
 """Checks charts as other programs see them: svg_check.py FOLDER.
 
 FOLDER holds pairs NAME.svg and NAME.png of one drawing. The SVG has to pass an XML parser, every
-number in it has to be a plain one, and drawn by rsvg-convert it has to look like the PNG. Exit code
-77: a tool is missing."""
+number in it has to be a plain one, and drawn by rsvg-convert (and by Chromium where it is
+installed) it has to look like the PNG. Exit code 77: a tool is missing."""
 import gzip
 import pathlib
 import re
@@ -48,6 +48,21 @@ def blocks(image, Image):
     return image.convert("L").resize(size, Image.BOX).getdata()
 
 
+def check_browser(svg, picture, Image, shot):
+    """Where Chromium is installed: it shows the drawing, close to the picture."""
+    if not shutil.which("chromium"):
+        return
+    subprocess.run(["chromium", "--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars",
+                    f"--window-size={picture.width},{picture.height}", f"--screenshot={shot}",
+                    svg.resolve().as_uri()], check=True, capture_output=True, timeout=120)
+    shown = Image.open(shot).convert("RGB")
+    assert shown.size == picture.size, (svg, "in the browser", shown.size)
+    differences = [abs(x - y) for x, y in zip(blocks(picture, Image), blocks(shown, Image))]
+    mean = sum(differences) / len(differences)
+    print(f"{svg.name}: in the browser mean {mean:.2f}, largest {max(differences)}")
+    assert mean <= WITH_TEXT[1], (svg, "in the browser", mean)
+
+
 def check_picture(svg, png, size, Image):
     with tempfile.TemporaryDirectory() as folder:
         other = pathlib.Path(folder) / "svg.png"
@@ -57,6 +72,7 @@ def check_picture(svg, png, size, Image):
         differences = [abs(x - y) for x, y in zip(blocks(a, Image), blocks(b, Image))]
         mean = sum(differences) / len(differences)
         print(f"{svg.name}: block difference mean {mean:.2f}, largest {max(differences)}")
+        check_browser(svg, a, Image, pathlib.Path(folder) / "browser.png")
         largest, middle = WITH_TEXT if "<text" in svg.read_text() else SHAPES_ALONE
         assert max(differences) <= largest and mean <= middle, svg
 
